@@ -1,0 +1,19 @@
+#include "cards/JFL.h"
+
+#include "cards/JFLDeck.h"
+#include "game/Board.h"
+#include "windows/JFLCardWindow.h"
+
+namespace gw {
+
+void JFL::doAction(player& p) {
+    Board& board = getCell().getBoard();
+    JFLCard& card = board.getJFLDeck().getCard();
+    JFLCardWindow& window = board.windows().jflCard;
+    window.showJFLCard(card.getDescription());
+    window.computerThink();
+    card.doAction(p);
+    Cell_doAction(p);
+}
+
+}  // namespace gw

@@ -1,0 +1,23 @@
+// The four cells whose landing asks nothing of the player: Go, the jail (a visit),
+// the free stop, and Police, which sends the token to jail.
+#pragma once
+
+#include "cells/BoardCell.h"
+
+namespace gw {
+
+// Landing on these is a redraw; the Go money is paid by the move itself.
+class QuietCell final : public BoardCell {
+public:
+    using BoardCell::BoardCell;
+    void doAction(player& p) override { Cell_doAction(p); }
+};
+
+class goToJail final : public BoardCell {
+public:
+    explicit goToJail(std::unique_ptr<cell> plain)
+        : BoardCell(CellKind::GoToJail, std::move(plain)) {}
+    void doAction(player& p) override;
+};
+
+}  // namespace gw

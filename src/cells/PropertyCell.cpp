@@ -1,0 +1,56 @@
+#include "cells/PropertyCell.h"
+
+#include "game/Board.h"
+#include "players/player.h"
+#include "windows/CellInfoWindow.h"
+
+namespace gw {
+
+void PropertyCell::doAction(player& p) {
+    prop_.doAction(p);
+    const player* owner = prop_.getOwners();
+    Integer opt = kOptInfo;
+    if (owner == nullptr) {
+        opt = kOptBuy;
+        showInfo(p, opt);
+    } else if (owner->getId() != p.getId() && !prop_.isMortgaged2()) {
+        opt = kOptRent;
+        showInfo(p, opt);
+    } else {
+        p.setDidAction(true);
+    }
+}
+
+void PropertyCell::showInfo(player& p, Integer& opt) {
+    const CardValues values = cardValues();
+    std::string ownerName;
+    const bool isTheLanding = p.getPosition() == Cell_getId() && !p.getDidAction();
+    if (!isTheLanding) {
+        const player* owner = prop_.getOwners();
+        if (owner == nullptr) {
+            opt = kOptInfo;
+        } else {
+            ownerName = owner->getName();
+            if (owner->getId() == p.getId()) {
+                opt = kOptOwn;
+            } else if (getHotelCount() == 0 && p.getBalance() >= 0) {
+                opt = kOptTrade;
+            }
+        }
+    }
+    getCell().getBoard().windows().cellInfo.showInfoCard(Cell_getId(), groupNumber(),
+                                                         values.span(), opt, p,
+                                                         Cell_getName(), ownerName);
+}
+
+CardValues Metro::cardValues() const {
+    const Property& prop = getProp();
+    return {{prop.getPrice(), prop.getRent(), prop.getMortgage()}, 3};
+}
+
+CardValues Utility::cardValues() const {
+    const Property& prop = getProp();
+    return {{prop.getPrice(), prop.getRent(), prop.getMortgage()}, 3};
+}
+
+}  // namespace gw

@@ -1,0 +1,69 @@
+// The common part of the three buyable kinds (Street, Metro, Utility): the held
+// Property, the landing rule, and the filling of the property card.
+#pragma once
+
+#include <array>
+#include <span>
+
+#include "cells/BoardCell.h"
+#include "cells/Property.h"
+
+namespace gw {
+
+// The values printed on the property card: 8 for a street, 3 for the others.
+struct CardValues {
+    std::array<Integer, 8> values{};
+    std::size_t count = 0;
+    std::span<const Integer> span() const { return {values.data(), count}; }
+};
+
+// The card value opt: what the property card offers.
+enum CardOpt : Integer { kOptInfo = 0, kOptBuy = 1, kOptRent = 2, kOptOwn = 3, kOptTrade = 4 };
+
+class PropertyCell : public BoardCell {
+public:
+    Property& getProp() { return prop_; }
+    const Property& getProp() const { return prop_; }
+
+    // The rent due now; for a street it counts the hotels.
+    virtual Integer getRent() const { return prop_.getRent(); }
+    virtual Integer getHotelCount() const { return 0; }
+    // 1 to 8 the district, 9 a metro station, 10 a utility.
+    virtual Integer groupNumber() const = 0;
+
+    // A token lands: the offer to buy, the demand for rent, or nothing.
+    void doAction(player& p) override;
+    // Opens the property card. Unless this is the landing being dealt with, opt is
+    // worked out anew from the owner and the player.
+    void showInfo(player& p, Integer& opt);
+
+protected:
+    PropertyCell(CellKind kind, std::unique_ptr<cell> plain, Integer price)
+        : BoardCell(kind, std::move(plain)), prop_(getCell(), price) {}
+    virtual CardValues cardValues() const = 0;
+
+private:
+    Property prop_;
+};
+
+class Metro final : public PropertyCell {
+public:
+    Metro(std::unique_ptr<cell> plain, Integer price)
+        : PropertyCell(CellKind::Metro, std::move(plain), price) {}
+    Integer groupNumber() const override { return 9; }
+
+protected:
+    CardValues cardValues() const override;
+};
+
+class Utility final : public PropertyCell {
+public:
+    Utility(std::unique_ptr<cell> plain, Integer price)
+        : PropertyCell(CellKind::Utility, std::move(plain), price) {}
+    Integer groupNumber() const override { return 10; }
+
+protected:
+    CardValues cardValues() const override;
+};
+
+}  // namespace gw

@@ -1,0 +1,17 @@
+#include "cells/TaxCell.h"
+
+#include "game/Board.h"
+#include "windows/taxCellWindow.h"
+
+namespace gw {
+
+void TaxCell::showInfo(player& p, Integer opt) {
+    getCell().getBoard().windows().taxCard.showTaxCard(Cell_getId(), p, rent_, opt);
+}
+
+void TaxCell::doAction(player& p) {
+    showInfo(p, 1);
+    Cell_doAction(p);
+}
+
+}  // namespace gw

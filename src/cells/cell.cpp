@@ -1,0 +1,23 @@
+#include "cells/cell.h"
+
+#include "game/Board.h"
+#include "players/player.h"
+
+namespace gw {
+
+bool cell::IsOn(Integer) const { return false; }
+
+void cell::updateIsOn() {
+    const Integer n = board_.getNumPlayer();
+    for (Integer i = 0; i < n; ++i) {
+        const player* p = board_.getPlayer(i);
+        isOn_[static_cast<std::size_t>(i)] = p != nullptr && p->getPosition() == id_;
+    }
+}
+
+void cell::display() {
+    updateIsOn();
+    board_.windows().main.showCell(isOn_, id_);
+}
+
+}  // namespace gw

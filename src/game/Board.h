@@ -1,0 +1,92 @@
+// The game: the players in their order of play, whose turn it is, the dice, the deck
+// and the forty cells. Every rule step of a turn starts in playTurn, rollDice or
+// endTurn; nothing else changes whose turn it is.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+
+#include "cards/JFLDeck.h"
+#include "cells/BoardCell.h"
+#include "game/Dice.h"
+#include "game/Integer.h"
+#include "game/Random.h"
+#include "players/player.h"
+#include "windows/Windows.h"
+
+namespace gw {
+
+constexpr Integer kCellCount = 40;
+constexpr Integer kPlayerSlots = 9;
+constexpr Integer kMaxPlayers = 6;
+
+class Board {
+public:
+    Board(Windows& windows, std::unique_ptr<Random> random);
+    ~Board();
+    Board(const Board&) = delete;
+    Board& operator=(const Board&) = delete;
+
+    // Set-up
+    // Builds or rebuilds the cells and the deck; every cell is as new.
+    void init();
+    // The cell at a position, or null outside 0 to 39; the position is not wrapped.
+    BoardCell* getCell(Integer pos) const;
+    // Empties the player slots; init is what sets the counts back to 0.
+    void deleteAllPlayer();
+    // Stores the player in the next slot; a full table takes no more.
+    void addPlayer(std::unique_ptr<player> playerInfo);
+    // Makes a player with the next free id and stores it.
+    player& addPlayer(std::string name, bool isComputer, Integer token);
+    // Draws the order of play and renumbers the players by it.
+    void shufflePlayers();
+
+    // Players
+    player& getCurrPlayer() const { return *players_[static_cast<std::size_t>(currPlayer_)]; }
+    Integer getCurrPlayerIndex() const { return currPlayer_; }
+    Integer getNumPlayer() const { return numPlayer_; }
+    player* getPlayer(Integer id) const;
+    JFLDeck& getJFLDeck() { return jflDeck_; }
+
+    // The turn cycle
+    // The part of a turn that needs no further input: a human's throw and landing, or a
+    // computer's whole turn. Runs of computer turns are a loop, not a deepening chain.
+    void playTurn();
+    // One throw for the current player, with all it brings about but the landing.
+    void rollDice();
+    // Tries to end the current player's turn and starts the next one.
+    void endTurn();
+
+    // One reseeded draw from the game's random source.
+    double draw() { return random_->draw(); }
+    Windows& windows() const { return windows_; }
+    const Dice& dice1() const { return dice1_; }
+    const Dice& dice2() const { return dice2_; }
+
+    // How many players are not bankrupt; the game is over at one.
+    Integer countSolvent() const;
+    // Called after each computer turn of a run; answering false stops the run there
+    // (a tool's cap on turns, or a program that is closing).
+    void setOnTurnPlayed(std::function<bool()> hook) { onTurnPlayed_ = std::move(hook); }
+
+private:
+    void playOneTurn();
+    void buildCells();
+
+    Integer currPlayer_ = 0;
+    Integer numPlayer_ = 0;
+    std::array<std::unique_ptr<player>, kPlayerSlots> players_;
+    std::array<std::unique_ptr<BoardCell>, kCellCount> cells_;
+    Windows& windows_;
+    std::unique_ptr<Random> random_;
+    JFLDeck jflDeck_;
+    Dice dice1_;
+    Dice dice2_;
+
+    bool turnRunning_ = false;
+    bool turnPending_ = false;
+    std::function<bool()> onTurnPlayed_;
+};
+
+}  // namespace gw

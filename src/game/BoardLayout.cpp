@@ -1,0 +1,102 @@
+// The ring of forty cells: the one table of names, prices and district ids.
+#include <array>
+
+#include "cards/JFL.h"
+#include "cells/PlainCells.h"
+#include "cells/PropertyCell.h"
+#include "cells/Street.h"
+#include "cells/TaxCell.h"
+#include "game/Board.h"
+
+namespace gw {
+namespace {
+
+struct CellSpec {
+    const char* name;
+    CellKind kind;
+    Integer price;
+    Integer distId;
+};
+
+constexpr std::array<CellSpec, kCellCount> kRing = {{
+    {"GO", CellKind::Go, 0, 0},
+    {"Saint-Antoine", CellKind::Street, 90, 11},
+    {"JFL", CellKind::JFL, 0, 0},
+    {"Saint-Jacques", CellKind::Street, 100, 12},
+    {"Income Tax", CellKind::IncomeTax, 0, 0},
+    {"Outremont", CellKind::Metro, 300, 0},
+    {"Wellington", CellKind::Street, 130, 21},
+    {"JFL", CellKind::JFL, 0, 0},
+    {"Centre", CellKind::Street, 140, 22},
+    {"Bridge", CellKind::Street, 150, 23},
+    {"Jail", CellKind::Jail, 0, 0},
+    {"Notre-Dame", CellKind::Street, 170, 31},
+    {"Utility 1", CellKind::Utility, 200, 0},
+    {"Saint-Sulpice", CellKind::Street, 180, 32},
+    {"Saint-Paul", CellKind::Street, 190, 33},
+    {"Guy-Concordia", CellKind::Metro, 300, 0},
+    {"Saint-Laurent", CellKind::Street, 210, 41},
+    {"JFL", CellKind::JFL, 0, 0},
+    {"Saint-Urbain", CellKind::Street, 220, 42},
+    {"De La Gauchetiere", CellKind::Street, 230, 43},
+    {"Parc Olympique", CellKind::OlympicPark, 0, 0},
+    {"Jarry", CellKind::Street, 250, 51},
+    {"JFL", CellKind::JFL, 0, 0},
+    {"Jean Talon", CellKind::Street, 260, 52},
+    {"Saint-Zotique", CellKind::Street, 270, 53},
+    {"Vendome", CellKind::Metro, 300, 0},
+    {"Saint-Catherine", CellKind::Street, 290, 61},
+    {"Crescent", CellKind::Street, 300, 62},
+    {"HQ", CellKind::Utility, 200, 0},
+    {"Peel", CellKind::Street, 310, 63},
+    {"Police", CellKind::GoToJail, 0, 0},
+    {"Mont-Royal", CellKind::Street, 330, 71},
+    {"Rachel", CellKind::Street, 350, 72},
+    {"JFL", CellKind::JFL, 0, 0},
+    {"Saint-Joseph", CellKind::Street, 350, 73},
+    {"Bonaventure", CellKind::Metro, 300, 0},
+    {"JFL", CellKind::JFL, 0, 0},
+    {"Green", CellKind::Street, 400, 81},
+    {"Luxury Tax", CellKind::LuxuryTax, 0, 0},
+    {"The Boulevard", CellKind::Street, 500, 82},
+}};
+
+std::unique_ptr<BoardCell> makeCell(const CellSpec& spec, std::unique_ptr<cell> plain) {
+    switch (spec.kind) {
+        case CellKind::Go:
+        case CellKind::Jail:
+        case CellKind::OlympicPark: return std::make_unique<QuietCell>(spec.kind, std::move(plain));
+        case CellKind::GoToJail: return std::make_unique<goToJail>(std::move(plain));
+        case CellKind::IncomeTax: return std::make_unique<IncomeTax>(std::move(plain));
+        case CellKind::LuxuryTax: return std::make_unique<LuxuryTax>(std::move(plain));
+        case CellKind::JFL: return std::make_unique<JFL>(std::move(plain));
+        case CellKind::Metro: return std::make_unique<Metro>(std::move(plain), spec.price);
+        case CellKind::Utility: return std::make_unique<Utility>(std::move(plain), spec.price);
+        case CellKind::Street:
+            return std::make_unique<Street>(std::move(plain), spec.price, spec.distId);
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+void Board::init() {
+    currPlayer_ = 0;
+    numPlayer_ = 0;
+    jflDeck_.init();  // the deck is built and shuffled before any cell exists
+    buildCells();
+}
+
+void Board::buildCells() {
+    for (std::size_t i = 0; i < kRing.size(); ++i) {
+        auto plain = std::make_unique<cell>(static_cast<Integer>(i), kRing[i].name, *this);
+        cells_[i] = makeCell(kRing[i], std::move(plain));
+    }
+}
+
+BoardCell* Board::getCell(Integer pos) const {
+    if (pos < 0 || pos >= kCellCount) return nullptr;
+    return cells_[static_cast<std::size_t>(pos)].get();
+}
+
+}  // namespace gw

@@ -1,0 +1,39 @@
+// How a computer raises cash: utilities, then metro stations, then bare streets are
+// mortgaged, then hotels sold; if all that is not enough, bankruptcy.
+#include "cells/Street.h"
+#include "game/Board.h"
+#include "players/player.h"
+
+namespace gw {
+
+void player::autoMakeMoney(Integer amount) {
+    constexpr int kBankruptcyStage = 4;
+    for (int stage = 0; balance_ < amount; ++stage) {
+        if (stage == kBankruptcyStage) {
+            declareBankruptcy();
+            return;
+        }
+        for (Integer i = 0; i < kCellCount && balance_ < amount; ++i) {
+            const CellKind kind = board_.getCell(i)->kind();
+            switch (stage) {
+                case 0:
+                    if (kind == CellKind::Utility && canMort(i)) mortgageProp(i);
+                    break;
+                case 1:
+                    if (kind == CellKind::Metro && canMort(i)) mortgageProp(i);
+                    break;
+                case 2:
+                    if (kind == CellKind::Street && canMort(i)) mortgageProp(i);
+                    break;
+                default:
+                    if (kind != CellKind::Street) break;
+                    while (canSellHotel(i) && balance_ < amount) sellHotel(i);
+                    // A stripped street is mortgaged only while the player is in debt.
+                    if (canMort(i) && balance_ < 0) mortgageProp(i);
+                    break;
+            }
+        }
+    }
+}
+
+}  // namespace gw

@@ -1,0 +1,104 @@
+// A computer player's whole turn, in phases that Board.playTurn runs in order. Nothing
+// here is random and nothing here waits: the pacing lies in the cards' computerThink.
+#include "cells/PropertyCell.h"
+#include "game/Board.h"
+#include "players/player.h"
+
+namespace gw {
+namespace {
+
+constexpr Integer kReleaseFrom = 500;
+constexpr Integer kTradeAbove = 200;
+constexpr Integer kBuildAbove = 200;
+constexpr Integer kKeepAtLeast = 100;
+constexpr int kBuildPasses = 4;
+constexpr int kHotelsForAnotherPass = 3;
+
+}  // namespace
+
+void player::autoPlay(Integer opt) {
+    switch (opt) {
+        case 0: autoLeaveJailAndRoll(); break;
+        case 1: autoReleaseAndAct(); break;
+        case 2: autoSettleTradeRaiseBuild(); break;
+        default: break;
+    }
+}
+
+// Uses the card at the first chance, else pays at the first chance, and throws for
+// doubles only when short of the fee.
+void player::autoLeaveJailAndRoll() {
+    if (!IsInJail()) {
+        playSound("DICEROLL.wav");
+        board_.rollDice();
+    } else if (hasGoJFC()) {
+        useGOJFC();
+        board_.rollDice();
+        playSound("DICEROLL.wav");
+    } else if (balance_ < kJailFee) {
+        playSound("DICEROLL.wav");
+        board_.rollDice();
+    } else {
+        pay50GOJ();
+        playSound("DICEROLL.wav");
+        board_.rollDice();
+    }
+}
+
+void player::autoReleaseAndAct() {
+    if (balance_ >= kReleaseFrom) {
+        for (Integer i = 0; i < kCellCount; ++i) {
+            if (canUnmort(i)) unmortgageProp(i);
+        }
+    }
+    cellUnder()->doAction(*this);
+}
+
+void player::autoSettleTradeRaiseBuild() {
+    BoardCell* c = cellUnder();  // afresh: a card or the police may have moved the token
+    if (PropertyCell* prop = c->asProperty()) {
+        windows().cellInfo.computerThink();
+        const player* owner = prop->getProp().getOwners();
+        if (owner == nullptr) {
+            if (canBuy(position_)) {
+                playSound("BUY.wav");
+                buyProperty();
+            }
+        } else if (owner != this) {
+            playSound("PAY.wav");
+            payRent();
+        }
+    } else if (c->isTax()) {
+        windows().taxCard.computerThink();
+        playSound("PAY.wav");
+        payRent();
+    }
+    if (balance_ > kTradeAbove) autoTrade();
+    if (balance_ < kKeepAtLeast) {
+        if (balance_ < 0) {
+            autoMakeMoney(0);
+            if (isBankrupt_) return;
+        }
+        autoMakeMoney(kKeepAtLeast);
+        if (isBankrupt_) return;
+    }
+    setDidAction(true);
+    if (balance_ > kBuildAbove) autoBuild();
+}
+
+// Up to four passes from the end of the board down, one hotel a street a pass; a pass
+// that builds fewer than three ends the building.
+void player::autoBuild() {
+    for (int pass = 0; pass < kBuildPasses; ++pass) {
+        int built = 0;
+        for (Integer i = kCellCount - 1; i >= 0; --i) {
+            if (!canBuild(i)) continue;
+            playSound("BUILDING.wav");
+            buildHotel(i);
+            ++built;
+        }
+        if (built < kHotelsForAnotherPass) return;
+    }
+}
+
+}  // namespace gw

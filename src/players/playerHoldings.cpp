@@ -1,0 +1,119 @@
+// Buying, hotels and mortgages. Each action asks its own test again and does nothing
+// when it fails; buyProperty alone trusts its caller.
+#include "cells/PropertyCell.h"
+#include "cells/Street.h"
+#include "game/Board.h"
+#include "players/player.h"
+
+namespace gw {
+namespace {
+
+// The entry of a street in the owner's table: district row and street column.
+int rowOf(const Street& s) { return s.getDistId() / 10 - 1; }
+int columnOf(const Street& s) { return s.getDistId() % 10 - 1; }
+
+}  // namespace
+
+bool player::canBuy(Integer cellId) {
+    PropertyCell* c = board_.getCell(cellId) ? board_.getCell(cellId)->asProperty() : nullptr;
+    return c != nullptr && c->getProp().getOwners() == nullptr &&
+           c->getProp().getPrice() <= balance_;
+}
+
+void player::buyProperty() {
+    BoardCell* c = cellUnder();
+    PropertyCell* prop = c->asProperty();
+    if (prop == nullptr) return;  // only a buyable cell can be bought
+    debit(prop->getProp().getPrice());
+    newlyOwn(*c);
+}
+
+void player::setStreetEntry(const BoardCell& c, bool owned) {
+    if (!c.isStreet()) return;
+    const auto& s = static_cast<const Street&>(c);
+    const int row = rowOf(s);
+    const int column = columnOf(s);
+    if (row < 0 || row > 7 || column < 0 || column > 2) return;
+    ownedStreets_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = owned;
+}
+
+void player::newlyOwn(BoardCell& pProp) {
+    PropertyCell* prop = pProp.asProperty();
+    if (prop == nullptr) return;
+    prop->getProp().setOwner(this);
+    windows().main.showOwner(prop->getProp().getCell().getId());
+    setStreetEntry(pProp, true);
+}
+
+void player::noMoreOwn(BoardCell& pProp) { setStreetEntry(pProp, false); }
+
+bool player::ownDist(Integer iDist) {
+    ownedStreets_[0][2] = true;
+    ownedStreets_[7][2] = true;
+    if (iDist < 0 || iDist > 7) return false;
+    const auto& row = ownedStreets_[static_cast<std::size_t>(iDist)];
+    return row[0] && row[1] && row[2];
+}
+
+bool player::canBuild(Integer cellId) {
+    BoardCell* c = board_.getCell(cellId);
+    Street* s = c != nullptr ? c->asStreet() : nullptr;
+    if (s == nullptr || s->getProp().getOwners() != this) return false;
+    return ownDist(rounded(s->getDistId() / 10.0 - 1)) && s->getHotelCount() < kMaxHotels &&
+           !s->getProp().isMortgaged2() && s->getHotelCost() <= balance_;
+}
+
+void player::buildHotel(Integer cellId) {
+    if (!canBuild(cellId)) return;
+    Street& s = *board_.getCell(cellId)->asStreet();
+    s.addHotel();
+    debit(s.getHotelCost());
+    windows().main.showHotel(cellId);
+}
+
+bool player::canSellHotel(Integer cellId) {
+    BoardCell* c = board_.getCell(cellId);
+    const Street* s = c != nullptr ? c->asStreet() : nullptr;
+    return s != nullptr && s->getProp().getOwners() == this && s->getHotelCount() >= 1;
+}
+
+void player::sellHotel(Integer cellId) {
+    if (!canSellHotel(cellId)) return;
+    Street& s = *board_.getCell(cellId)->asStreet();
+    s.destroyHotel();
+    credit(s.getHotelCost());
+    windows().main.showHotel(cellId);
+}
+
+bool player::canMort(Integer cellId) {
+    BoardCell* c = board_.getCell(cellId);
+    const PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    return prop != nullptr && prop->getProp().getOwners() == this &&
+           !prop->getProp().isMortgaged2() && prop->getHotelCount() == 0;
+}
+
+void player::mortgageProp(Integer cellId) {
+    if (!canMort(cellId)) return;
+    Property& prop = board_.getCell(cellId)->asProperty()->getProp();
+    prop.Mortgage();
+    credit(prop.getMortgage());
+    windows().main.showMort(cellId);
+}
+
+bool player::canUnmort(Integer cellId) {
+    BoardCell* c = board_.getCell(cellId);
+    const PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    // Unrounded on purpose: a mortgage of 50 costs 55, yet 50 * 1.1 lies just above 55.
+    return prop != nullptr && prop->getProp().getOwners() == this &&
+           prop->getProp().isMortgaged2() && !(prop->getProp().getMortgage() * 1.1 > balance_);
+}
+
+void player::unmortgageProp(Integer cellId) {
+    if (!canUnmort(cellId)) return;
+    Property& prop = board_.getCell(cellId)->asProperty()->getProp();
+    prop.Unmortgage();
+    debit(rounded(prop.getMortgage() * 1.1));
+    windows().main.showMort(cellId);
+}
+
+}  // namespace gw

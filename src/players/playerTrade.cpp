@@ -1,0 +1,39 @@
+// Sales of one cell between two players, for money.
+#include "cells/PropertyCell.h"
+#include "game/Board.h"
+#include "players/player.h"
+
+namespace gw {
+
+void player::offerTrade(Integer cellId, Integer amount) {
+    BoardCell* c = board_.getCell(cellId);
+    PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    if (prop == nullptr) return;
+    player* owner = prop->getProp().getOwners();
+    // An offer left on the table for a cell that has gone back to the bank has nobody to ask.
+    if (owner == nullptr) return;
+    TradingCardWindow& window = windows().trading;
+    window.seeTrade(cellId, *owner, amount);
+    if (!owner->isComputer2()) return;
+    window.computerThink();
+    // The quotient is rounded first, so any offer above half the price is always taken
+    // and one of half the price or less once in ten.
+    const double q = rounded(static_cast<double>(amount) / prop->getProp().getPrice());
+    const Integer limit = q > 0.5 ? rounded((q - 0.5) * 20) : Integer{0};
+    const int draw = static_cast<int>(board_.draw() * 10000) + 1;
+    if (draw % 10 <= limit) doTrade(cellId, amount);
+}
+
+void player::doTrade(Integer cellId, Integer amount) {
+    BoardCell* c = board_.getCell(cellId);
+    PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    if (prop == nullptr) return;
+    player* seller = prop->getProp().getOwners();
+    if (seller == nullptr) return;  // the bank does not sell through this card
+    seller->noMoreOwn(*c);
+    seller->credit(amount);
+    debit(amount);
+    newlyOwn(*c);
+}
+
+}  // namespace gw

@@ -1,0 +1,180 @@
+#include "windows/CellInfoWindow.h"
+
+#include "players/player.h"
+#include "windows/Windows.h"
+
+namespace gw {
+namespace {
+
+std::string dollars(Integer value) {
+    std::string text = "$";
+    text += std::to_string(value);
+    return text;
+}
+
+}  // namespace
+
+void CellInfoWindow::showInfoCard(Integer iId, Integer iGroup, std::span<const Integer> iValues,
+                                  Integer opt, player& p, const std::string& sName,
+                                  const std::string& sOwner) {
+    // A card called over an open one takes the main window until one of its buttons is used.
+    if (isVisible()) windows_.main.setEnabled(false);
+    picture_ = -1;
+    cardOpt_ = opt;
+    cardPlayer_ = &p;
+    cardId_ = iId;
+    cardName_ = sName;
+    cardOwner_ = sOwner;
+    labels_[1] = sName;
+    labels_[3] = sOwner;
+    labels_[2].clear();
+    for (int i = 4; i <= 10; ++i) labels_[static_cast<std::size_t>(i)].clear();
+
+    for (Control* c : {&trade_, &buy_, &forget_, &payRent_, &buyHotel_, &sellHotel_, &mortgage_[0],
+                       &mortgage_[1], &ok_[0], &ok_[1], &unmortgage_}) {
+        c->hide();
+    }
+    buyHotel_.enable(false);
+    sellHotel_.enable(false);
+    buy_.enable(false);
+    const bool human = !p.isComputer2();
+    forget_.enable(human);
+
+    switch (cardOpt_) {
+        case 1:
+            buy_.show();
+            forget_.show();
+            if (p.canBuy(cardId_) && human) buy_.enable();
+            break;
+        case 2: {
+            payRent_.show();
+            const Integer shortfall = p.canPayRent(cardId_);
+            if (shortfall != 0) {
+                windows_.main.showInfo("You cannot pay the rent, you must get $" +
+                                       std::to_string(shortfall));
+                windows_.main.showNegBalance(true);
+                payRent_.enable(false);
+            } else if (human) {
+                payRent_.enable();
+                payRent_.caption = "Pay  " + std::to_string(p.getRent());
+                windows_.main.showInfo(p.getName() + " you owe $" + std::to_string(p.getRent()));
+            } else {
+                payRent_.enable(false);
+            }
+            break;
+        }
+        case 4:
+            trade_.show();
+            ok_[0].show();
+            break;
+        default: break;
+    }
+
+    if (iGroup >= 1 && iGroup <= 8) {
+        picture_ = iGroup - 1;
+        static constexpr int kStreetLabels[] = {2, 4, 5, 6, 7, 8, 9, 10};
+        for (std::size_t i = 0; i < iValues.size() && i < 8; ++i) {
+            labels_[static_cast<std::size_t>(kStreetLabels[i])] = dollars(iValues[i]);
+        }
+        if (cardOpt_ == 3) showOwnCellButtons(p.canBuild(cardId_) || p.canSellHotel(cardId_));
+    } else if (iGroup == 9 || iGroup == 10) {
+        if (iGroup == 9) picture_ = 11;
+        if (iGroup == 10 && cardId_ == 12) picture_ = 9;
+        if (iGroup == 10 && cardId_ == 28) picture_ = 10;
+        static constexpr int kOtherLabels[] = {2, 6, 8};
+        for (std::size_t i = 0; i < iValues.size() && i < 3; ++i) {
+            labels_[static_cast<std::size_t>(kOtherLabels[i])] = dollars(iValues[i]);
+        }
+        if (cardOpt_ == 3) showOwnCellButtons(false);
+    }
+    setVisible(true);
+}
+
+// The narrow layout sits beside the hotel buttons; the wide one has the row to itself.
+void CellInfoWindow::showOwnCellButtons(bool narrow) {
+    player& p = *cardPlayer_;
+    const bool human = !p.isComputer2();
+    if (narrow) {
+        buyHotel_.show();
+        sellHotel_.show();
+        ok_[1].show();
+        if (human) {
+            buyHotel_.enable(p.canBuild(cardId_));
+            sellHotel_.enable(p.canSellHotel(cardId_));
+        }
+    } else {
+        ok_[0].show();
+    }
+    if (!human) return;
+    Control& mortgage = mortgage_[narrow ? 1 : 0];
+    if (p.canMort(cardId_)) {
+        mortgage.show();
+        mortgage.enable();
+    }
+    if (p.canUnmort(cardId_)) {
+        unmortgage_.show();
+        unmortgage_.enable();
+    }
+}
+
+bool CellInfoWindow::computerThink() {
+    windows_.delay.wait(kComputerThinkTicks);
+    hideAndEnableMain();
+    return true;
+}
+
+void CellInfoWindow::hideAndEnableMain() {
+    windows_.main.setEnabled(true);
+    setVisible(false);
+}
+
+void CellInfoWindow::finishCard() {
+    cardPlayer_->setDidAction(true);
+    hideAndEnableMain();
+}
+
+void CellInfoWindow::buy_Click() {
+    cardPlayer_->buyProperty();
+    finishCard();
+    windows_.main.showInfo(cardPlayer_->getName() + " has bought " + cardName_);
+}
+
+void CellInfoWindow::forget_Click() { finishCard(); }
+
+void CellInfoWindow::payRent_Click() {
+    cardPlayer_->payRent();
+    finishCard();
+}
+
+void CellInfoWindow::Ok_Click(int) { hideAndEnableMain(); }
+
+void CellInfoWindow::close() { hideAndEnableMain(); }
+
+void CellInfoWindow::buyHotel_Click() {
+    cardPlayer_->buildHotel(cardId_);
+    hideAndEnableMain();
+    windows_.sound.play(MediaPlayer::Main1, "building.wav");
+}
+
+void CellInfoWindow::sellHotel_Click() {
+    cardPlayer_->sellHotel(cardId_);
+    hideAndEnableMain();
+}
+
+void CellInfoWindow::Mortgage_Click(int) {
+    cardPlayer_->mortgageProp(cardId_);
+    hideAndEnableMain();
+    windows_.sound.play(MediaPlayer::Main1, "mortaged.wav");
+}
+
+void CellInfoWindow::Unmortgage_Click() {
+    cardPlayer_->unmortgageProp(cardId_);
+    hideAndEnableMain();
+}
+
+void CellInfoWindow::trade_Click() {
+    hideAndEnableMain();
+    windows_.trading.proposeTrade(cardId_, *cardPlayer_, cardName_, cardOwner_);
+}
+
+}  // namespace gw

@@ -1,0 +1,89 @@
+// The property card: one Street, Metro or Utility with its values, and the buttons by
+// which a human buys, pays rent, builds, sells, mortgages, releases and opens a trade.
+// In a computer's turn the same card comes up with its buttons closed, for the human to
+// watch, and computerThink closes it after the standard wait.
+#pragma once
+
+#include <array>
+#include <span>
+#include <string>
+
+#include "game/Integer.h"
+#include "windows/Control.h"
+
+namespace gw {
+
+class Windows;
+class player;
+
+class CellInfoWindow : public WindowModel {
+public:
+    explicit CellInfoWindow(Windows& windows) : windows_(windows) {}
+
+    // Fills the card and puts it on the screen; opt: 0 information, 1 buy, 2 rent,
+    // 3 own cell, 4 another player's cell open to a trade.
+    void showInfoCard(Integer iId, Integer iGroup, std::span<const Integer> iValues, Integer opt,
+                      player& p, const std::string& sName, const std::string& sOwner);
+    bool computerThink();
+
+    void buy_Click();
+    void buyHotel_Click();
+    void forget_Click();
+    void Mortgage_Click(int index);
+    void Ok_Click(int index);
+    void payRent_Click();
+    void sellHotel_Click();
+    void trade_Click();
+    void Unmortgage_Click();
+    // The window's own close box: no effect on the game, but the main window comes back.
+    void close();
+
+    // Fields of the last card.
+    player* cardPlayer() const { return cardPlayer_; }
+    Integer cardId() const { return cardId_; }
+    const std::string& cardName() const { return cardName_; }
+    const std::string& cardOwner() const { return cardOwner_; }
+    Integer cardOpt() const { return cardOpt_; }
+
+    // Which of the twelve card pictures is on show, -1 for none.
+    int picture() const { return picture_; }
+    // Label1 to Label10 by their number; index 0 is unused.
+    const std::string& label(int number) const { return labels_[static_cast<std::size_t>(number)]; }
+
+    const Control& buy() const { return buy_; }
+    const Control& forget() const { return forget_; }
+    const Control& payRent() const { return payRent_; }
+    const Control& trade() const { return trade_; }
+    const Control& Ok(int index) const { return ok_[static_cast<std::size_t>(index)]; }
+    const Control& Mortgage(int index) const { return mortgage_[static_cast<std::size_t>(index)]; }
+    const Control& Unmortgage() const { return unmortgage_; }
+    const Control& buyHotel() const { return buyHotel_; }
+    const Control& sellHotel() const { return sellHotel_; }
+
+private:
+    void showOwnCellButtons(bool narrow);
+    void hideAndEnableMain();
+    void finishCard();
+
+    Windows& windows_;
+    player* cardPlayer_ = nullptr;
+    Integer cardId_ = 0;
+    std::string cardName_;
+    std::string cardOwner_;
+    Integer cardOpt_ = 0;
+
+    int picture_ = -1;
+    std::array<std::string, 11> labels_{"", "Street Name", "$ Value", "Status"};
+    Control buy_{true, true, "Buy It!"};
+    Control forget_{true, true, "Forget It!"};
+    Control payRent_{true, true, "Pay Rent"};
+    Control trade_{true, true, "Trade"};
+    std::array<Control, 2> ok_{Control{true, true, "Ok"}, Control{true, true, "Ok"}};
+    std::array<Control, 2> mortgage_{Control{true, true, "Mortgage"},
+                                     Control{true, true, "Mortgage"}};
+    Control unmortgage_{true, true, "Unmortgage"};
+    Control buyHotel_{true, true, "Buy Hotel"};
+    Control sellHotel_{true, true, "Sell Hotel"};
+};
+
+}  // namespace gw

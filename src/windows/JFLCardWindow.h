@@ -1,0 +1,31 @@
+// The card that shows a drawn JFL card's text. It closes by itself after the standard
+// wait, for humans and computers alike; OK only closes it sooner.
+#pragma once
+
+#include <string>
+
+#include "windows/Control.h"
+
+namespace gw {
+
+class Windows;
+
+class JFLCardWindow : public WindowModel {
+public:
+    explicit JFLCardWindow(Windows& windows) : windows_(windows) {}
+
+    void showJFLCard(const std::string& sDesc);
+    bool computerThink();
+    void Ok_Click();
+
+    // The card's text.
+    const std::string& Label2() const { return label2_; }
+    const Control& Ok() const { return ok_; }
+
+private:
+    Windows& windows_;
+    std::string label2_ = "Label1";
+    Control ok_{true, true, "OK"};
+};
+
+}  // namespace gw

@@ -1,0 +1,39 @@
+// The tax card: shows the flat sum of a tax cell and takes the payment. A human who
+// cannot pay sees the shortfall and a closed button until money comes in.
+#pragma once
+
+#include <string>
+
+#include "game/Integer.h"
+#include "windows/Control.h"
+
+namespace gw {
+
+class Windows;
+class player;
+
+class taxCellWindow : public WindowModel {
+public:
+    explicit taxCellWindow(Windows& windows) : windows_(windows) {}
+
+    void showTaxCard(Integer iId, player& p, Integer amount, Integer opt);
+    bool computerThink();
+    void payRent_Click();
+
+    // 0 the income tax picture, 1 the luxury tax picture, -1 none.
+    int picture() const { return picture_; }
+    const std::string& Label1() const { return label1_; }
+    const Control& payRent() const { return payRent_; }
+    Integer taxId() const { return taxId_; }
+    player* taxPlayer() const { return taxPlayer_; }
+
+private:
+    Windows& windows_;
+    Integer taxId_ = 0;
+    player* taxPlayer_ = nullptr;
+    int picture_ = -1;
+    std::string label1_ = "Label1";
+    Control payRent_{true, true, "Pay Tax"};
+};
+
+}  // namespace gw
