@@ -14,7 +14,12 @@ class Sound {
 public:
     virtual ~Sound() = default;
     virtual void play(MediaPlayer player, std::string_view file) = 0;
+    // Loudness in hundredths of a decibel below full: -600 normal, -3000 muted.
+    virtual void setVolume(MediaPlayer, int) {}
 };
+
+constexpr int kNormalVolume = -600;
+constexpr int kMutedVolume = -3000;
 
 class SilentSound final : public Sound {
 public:

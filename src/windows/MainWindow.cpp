@@ -1,0 +1,320 @@
+#include "windows/MainWindow.h"
+
+#include <cstdlib>
+
+#include "cells/PropertyCell.h"
+#include "cells/Street.h"
+#include "game/Board.h"
+#include "windows/Delay.h"
+#include "windows/Sound.h"
+
+namespace gw {
+namespace {
+
+constexpr Integer kStepTicks = 2;   // a walking token: 160 ms a cell
+constexpr Integer kFrameTicks = 1;  // a falling die: 80 ms a frame
+constexpr Integer kPoliceCell = 30;
+
+int tokenNumber(const player& p) { return std::atoi(p.getTokenName().c_str()); }
+
+}  // namespace
+
+MainWindow::MainWindow(Sound& sound, Delay& delay) : sound_(sound), delay_(delay) {
+    for (auto& cell : squares_) cell.fill(kNoPicture);
+    ownedBy_.fill(kNoPicture);
+}
+
+void MainWindow::init(Board& bBoard1) { board_ = &bBoard1; }
+
+player& MainWindow::current() const { return board_->getCurrPlayer(); }
+
+void MainWindow::startGame() {
+    board_->shufflePlayers();
+    for (Integer i = 0; i < board_->getNumPlayer() && i < kMaxPlayers; ++i) {
+        tokenTags_[static_cast<std::size_t>(i)] = tokenNumber(*board_->getPlayer(i));
+    }
+    UpdatePlayers();
+    ShowPlayers();
+    if (current().isComputer2()) {
+        UpdateTurnPlaying(2);
+        board_->playTurn();
+    } else {
+        UpdateTurnPlaying(0);
+    }
+}
+
+void MainWindow::showInfo(std::string_view msg) {
+    label1_ = msg;
+    changed();
+}
+
+void MainWindow::UpdateTurnPlaying(Integer opt) {
+    const player& p = current();
+    playToken_ = panel_[static_cast<std::size_t>(p.getId())].token;
+    label2_ = p.getName();
+    turnBar_ = p.getId();
+    rollDice_.show();
+    endTurn_.show();
+    declareBank_.hide();
+    switch (opt) {
+        case 0: rollDice_.enable(); endTurn_.enable(false); break;
+        case 1: rollDice_.enable(false); endTurn_.enable(); break;
+        case 2: rollDice_.enable(false); endTurn_.enable(false); break;
+        default: break;
+    }
+    changed();
+}
+
+// The first die runs through its faces from 6 down, the second from 1 up, a frame a
+// tick; then the thrown faces stay.
+void MainWindow::Showdice(Integer die1, Integer die2) {
+    for (Integer f = 1; f <= 6; ++f) {
+        delay_.wait(kFrameTicks);
+        die1_ = static_cast<Integer>(7 - f);
+        die2_ = f;
+        changed();
+    }
+    die1_ = die1;
+    die2_ = die2;
+    changed();
+}
+
+// One step on every cell from `from` to `to`, the first included.
+void MainWindow::MoveToken(Integer id, Integer from, Integer to) {
+    if (id < 0 || id >= kMaxPlayers) return;
+    for (Integer k = from; k <= to; ++k) {
+        delay_.wait(kStepTicks);
+        bigTokens_[static_cast<std::size_t>(id)].cell = k;
+        changed();
+        sound_.play(MediaPlayer::Main1, "tokenmove.wav");
+    }
+}
+
+void MainWindow::UpdatePlayers() {
+    for (Integer i = 0; i < board_->getNumPlayer() && i < kMaxPlayers; ++i) {
+        const player* p = board_->getPlayer(i);
+        if (p == nullptr) continue;
+        PanelRow& row = panel_[static_cast<std::size_t>(i)];
+        row.name.caption = p->getName();
+        row.name.show();
+        row.balance.caption = p->isBankrupt2() ? "Bankrupt" : std::to_string(p->getBalance());
+        row.balance.show();
+        row.token = tokenNumber(*p);
+        row.tokenVisible = true;
+    }
+    changed();
+}
+
+void MainWindow::ShowPlayers() {
+    for (Integer i = 0; i < board_->getNumPlayer() && i < kMaxPlayers; ++i) {
+        bigTokens_[static_cast<std::size_t>(i)].visible = true;
+    }
+    changed();
+}
+
+// The squares fill from the first, in order of player number; the rest are hidden.
+void MainWindow::showCell(const OnCell& onCell, Integer cellId) {
+    if (cellId == kPoliceCell || cellId < 0 || cellId >= kCellCount) return;
+    auto& squares = squares_[static_cast<std::size_t>(cellId)];
+    std::size_t s = 0;
+    for (std::size_t i = 0; i < 6; ++i) {
+        if (onCell[i]) squares[s++] = tokenTags_[i];
+    }
+    while (s < squares.size()) squares[s++] = kNoPicture;
+    changed();
+}
+
+void MainWindow::showOwner(Integer cellId) {
+    BoardCell* c = board_->getCell(cellId);
+    PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    if (prop == nullptr) return;
+    const player* owner = prop->getProp().getOwners();
+    ownedBy_[static_cast<std::size_t>(cellId)] =
+        owner == nullptr ? kNoPicture : panel_[static_cast<std::size_t>(owner->getId())].token;
+    changed();
+}
+
+void MainWindow::showHotel(Integer cellId) {
+    BoardCell* c = board_->getCell(cellId);
+    const Street* s = c != nullptr ? c->asStreet() : nullptr;
+    if (s == nullptr) return;
+    hotels_[static_cast<std::size_t>(cellId)] = s->getHotelCount();
+    changed();
+}
+
+void MainWindow::showMort(Integer cellId) {
+    BoardCell* c = board_->getCell(cellId);
+    const PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    if (prop == nullptr) return;
+    const bool mortgaged = prop->getProp().isMortgaged2();
+    mortgaged_[static_cast<std::size_t>(cellId)] = mortgaged;
+    changed();
+    if (mortgaged) sound_.play(MediaPlayer::Main1, "mortaged.wav");
+}
+
+void MainWindow::showBankRupt() {
+    const player& p = current();
+    bigTokens_[static_cast<std::size_t>(p.getId())].visible = false;
+    panel_[static_cast<std::size_t>(p.getId())].balance.caption = "Bankrupt";
+    changed();
+    sound_.play(MediaPlayer::Main1, "Bankrupt.wav");
+}
+
+void MainWindow::showInJail() {
+    const player& p = current();
+    pay50Rent_.hide();
+    useJFLCard_.hide();
+    if (p.IsInJail()) {
+        showInfo(p.getName() + ", you are in jail. Please roll a double or pay 50 to get out!");
+        pay50Rent_.show();
+        pay50Rent_.enable(p.getBalance() >= kJailFee);
+        if (p.hasGoJFC()) useJFLCard_.show();
+    }
+    changed();
+}
+
+void MainWindow::applyLayout(Layout layout) {
+    switch (layout) {
+        case Layout::Free:
+            rollDice_.show();
+            endTurn_.show();
+            declareBank_.hide();
+            declareBank_.enable(false);
+            break;
+        case Layout::InDebtHuman:
+            rollDice_.hide();
+            endTurn_.hide();
+            declareBank_.show();
+            declareBank_.enable();
+            break;
+        case Layout::InDebtComputer:
+            rollDice_.hide();
+            rollDice_.enable(false);
+            endTurn_.show();
+            endTurn_.enable(false);
+            declareBank_.show();
+            declareBank_.enable(false);
+            break;
+    }
+    changed();
+}
+
+// The buttons follow the player's ability to pay. On a tax cell or a buyable cell the
+// answer of the payment test counts, not `neg`. Those tests call back here while the
+// player is short; the inner call only sets the layout and the outer one decides, which
+// cuts what would otherwise be an endless exchange.
+void MainWindow::showNegBalance(bool neg) {
+    player& p = current();
+    const Layout inDebt = p.isComputer2() ? Layout::InDebtComputer : Layout::InDebtHuman;
+    applyLayout(neg ? inDebt : Layout::Free);
+    if (askingDebtTests_) return;
+    BoardCell* c = board_->getCell(p.getPosition());
+    if (c == nullptr || !(c->isTax() || c->isProperty())) return;
+    askingDebtTests_ = true;
+    const Integer answer =
+        c->isTax() ? p.canPayTax(p.getPosition()) : p.canPayRent(p.getPosition());
+    askingDebtTests_ = false;
+    applyLayout(answer != 0 ? inDebt : Layout::Free);
+}
+
+void MainWindow::setEnabled(bool enabled) {
+    enabled_ = enabled;
+    changed();
+}
+
+void MainWindow::showGameEnd() {
+    gameEndShown_ = true;
+    setVisible(false);
+}
+
+bool MainWindow::turnButtonsLive() const {
+    return board_ != nullptr && enabled_ && !turnButtonBusy_ && !current().isComputer2() &&
+           !current().isBankrupt2();
+}
+
+// A click that arrives inside a wait of the turn it belongs to, or in a computer's turn,
+// is dropped: one roll for one turn.
+template <class Action>
+void MainWindow::runTurnButton(Action action) {
+    if (!turnButtonsLive()) return;
+    turnButtonBusy_ = true;
+    action();
+    turnButtonBusy_ = false;
+}
+
+void MainWindow::rollDice_Click() {
+    runTurnButton([this] {
+        sound_.play(MediaPlayer::Main1, "DICEROLL.wav");
+        pay50Rent_.hide();
+        useJFLCard_.hide();
+        changed();
+        board_->playTurn();
+    });
+}
+
+void MainWindow::pay50Rent_Click() {
+    runTurnButton([this] {
+        current().pay50GOJ();
+        showInJail();
+        board_->playTurn();
+    });
+}
+
+void MainWindow::useJFLCard_Click() {
+    runTurnButton([this] {
+        current().useGOJFC();
+        showInJail();
+        board_->playTurn();
+    });
+}
+
+void MainWindow::endTurn_Click() {
+    runTurnButton([this] {
+        board_->endTurn();
+        showInfo(label2_ + ", its your turn to play.");
+    });
+}
+
+void MainWindow::declareBank_Click() {
+    runTurnButton([this] { current().declareBankruptcy(); });
+}
+
+void MainWindow::cell_Click(Integer Index) {
+    if (board_ == nullptr || !enabled_) return;
+    player& p = current();
+    if (p.isComputer2() || p.isBankrupt2()) return;
+    BoardCell* c = board_->getCell(Index);
+    PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    if (prop == nullptr) return;
+    Integer opt = 0;
+    if (p.getPosition() == Index) {
+        if (!p.getDidAction()) {
+            prop->doAction(p);
+        } else {
+            prop->showInfo(p, opt);
+        }
+        return;
+    }
+    prop->showInfo(p, opt);
+    if (p.IsInJail()) showInJail();
+}
+
+void MainWindow::Mute_Click() {
+    sound_.setVolume(MediaPlayer::Main1, kMutedVolume);
+    sound_.setVolume(MediaPlayer::Main2, kMutedVolume);
+}
+
+void MainWindow::Enable_Click() {
+    sound_.setVolume(MediaPlayer::Main1, kNormalVolume);
+    sound_.setVolume(MediaPlayer::Main2, kNormalVolume);
+}
+
+void MainWindow::Exit_Click() const {
+    if (onExit_) onExit_();
+}
+
+void MainWindow::About_Click() const {
+    if (onAbout_) onAbout_();
+}
+
+}  // namespace gw

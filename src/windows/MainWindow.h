@@ -1,0 +1,142 @@
+// The main window as a model: the board's marks, the players' panel, the message line
+// and the five buttons of the turn, with the handlers of its clicks and menu. The rules
+// tell it what to show through MainWindowPort; a view draws this state and forwards
+// clicks. It holds no game state of its own beyond what it shows.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include "game/Integer.h"
+#include "windows/Control.h"
+#include "windows/MainWindowPort.h"
+
+namespace gw {
+
+class Board;
+class Delay;
+class Sound;
+class player;
+
+constexpr int kNoPicture = -1;
+
+class MainWindow final : public MainWindowPort, public WindowModel {
+public:
+    // One row of the players' panel.
+    struct PanelRow {
+        Control name{false, true, ""};
+        Control balance{false, true, "Bankrupt"};
+        int token = kNoPicture;  // Token(i): the player's token picture
+        bool tokenVisible = false;
+    };
+    // The large token that walks the board.
+    struct BigToken {
+        bool visible = false;
+        Integer cell = 0;
+    };
+
+    MainWindow(Sound& sound, Delay& delay);
+
+    // Set-up
+    void init(Board& bBoard1);
+    // Draws the order of play, fills the panel and opens the first turn.
+    void startGame();
+
+    // What the rules call
+    void showInfo(std::string_view msg) override;
+    void UpdateTurnPlaying(Integer opt) override;
+    void Showdice(Integer die1, Integer die2) override;
+    void MoveToken(Integer id, Integer from, Integer to) override;
+    void UpdatePlayers() override;
+    void ShowPlayers();
+    void showCell(const OnCell& onCell, Integer cellId) override;
+    void showOwner(Integer cellId) override;
+    void showHotel(Integer cellId) override;
+    void showMort(Integer cellId) override;
+    void showInJail() override;
+    void showNegBalance(bool neg) override;
+    void showBankRupt() override;
+    void setEnabled(bool enabled) override;
+    void showGameEnd() override;
+
+    // Clicks and menu
+    void rollDice_Click();
+    void endTurn_Click();
+    void pay50Rent_Click();
+    void useJFLCard_Click();
+    void declareBank_Click();
+    void cell_Click(Integer Index);
+    void Mute_Click();
+    void Enable_Click();
+    void setOnExit(std::function<void()> hook) { onExit_ = std::move(hook); }
+    void setOnAbout(std::function<void()> hook) { onAbout_ = std::move(hook); }
+    void Exit_Click() const;
+    void About_Click() const;
+
+    // State for the view
+    bool isEnabled() const { return enabled_; }
+    bool gameEndShown() const { return gameEndShown_; }
+    const std::string& Label1() const { return label1_; }
+    const std::string& Label2() const { return label2_; }
+    int playToken() const { return playToken_; }
+    int turnBar() const { return turnBar_; }
+    const Control& rollDice() const { return rollDice_; }
+    const Control& declareBank() const { return declareBank_; }
+    const Control& endTurn() const { return endTurn_; }
+    const Control& pay50Rent() const { return pay50Rent_; }
+    const Control& useJFLCard() const { return useJFLCard_; }
+    const PanelRow& panel(int id) const { return panel_[static_cast<std::size_t>(id)]; }
+    const BigToken& bigToken(int id) const { return bigTokens_[static_cast<std::size_t>(id)]; }
+    // The token picture in small square s (0 to 5) of a cell, or kNoPicture.
+    int square(int cellId, int s) const {
+        return squares_[static_cast<std::size_t>(cellId)][static_cast<std::size_t>(s)];
+    }
+    int hotelsShown(int cellId) const { return hotels_[static_cast<std::size_t>(cellId)]; }
+    bool mortgageShown(int cellId) const { return mortgaged_[static_cast<std::size_t>(cellId)]; }
+    int ownerMark(int cellId) const { return ownedBy_[static_cast<std::size_t>(cellId)]; }
+    // The faces on top of each die, 0 before the first roll.
+    Integer dieFace1() const { return die1_; }
+    Integer dieFace2() const { return die2_; }
+
+private:
+    enum class Layout { Free, InDebtHuman, InDebtComputer };
+    void applyLayout(Layout layout);
+    player& current() const;
+    // A turn button acts only for a human whose turn it is, and not inside another one.
+    bool turnButtonsLive() const;
+    template <class Action>
+    void runTurnButton(Action action);
+
+    Sound& sound_;
+    Delay& delay_;
+    Board* board_ = nullptr;
+
+    bool enabled_ = true;
+    bool gameEndShown_ = false;
+    bool askingDebtTests_ = false;
+    bool turnButtonBusy_ = false;
+    std::string label1_ = "Let the game begin!";
+    std::string label2_ = "Label2";
+    int playToken_ = kNoPicture;
+    int turnBar_ = kNoPicture;
+    Control rollDice_{true, true, "Roll Dice"};
+    Control declareBank_{false, true, "Declare Bankruptcy"};
+    Control endTurn_{true, true, "End Turn"};
+    Control pay50Rent_{false, true, "Pay $50 to get out of jail "};
+    Control useJFLCard_{false, true, "Use Your JFL get out of jail card"};
+    std::array<PanelRow, 6> panel_{};
+    std::array<int, 6> tokenTags_{kNoPicture, kNoPicture, kNoPicture,
+                                  kNoPicture, kNoPicture, kNoPicture};
+    std::array<BigToken, 6> bigTokens_{};
+    std::array<std::array<int, 6>, 40> squares_{};
+    std::array<int, 40> hotels_{};
+    std::array<bool, 40> mortgaged_{};
+    std::array<int, 40> ownedBy_{};
+    Integer die1_ = 0;
+    Integer die2_ = 0;
+    std::function<void()> onExit_;
+    std::function<void()> onAbout_;
+};
+
+}  // namespace gw

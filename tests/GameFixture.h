@@ -1,0 +1,85 @@
+// A game on the recorder with a scripted source of chance: the deck in a chosen order,
+// the players in the order added (ids 0, 1, ...), and dice that show the faces pushed.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <numeric>
+#include <vector>
+
+#include "Recorder.h"
+#include "cells/PropertyCell.h"
+#include "cells/Street.h"
+#include "game/Board.h"
+
+namespace gw::test {
+
+// The draws that make the deck's shuffle put card cardOrder[s] in slot s.
+inline std::vector<double> deckDraws(const std::vector<int>& cardOrder) {
+    std::vector<double> draws;
+    for (std::size_t v = 1; v < cardOrder.size(); ++v) {
+        draws.push_back(ScriptedRandom::slot(cardOrder[v], kDeckSize));
+    }
+    return draws;
+}
+
+// The deck in the order of its types: 0, 1, ..., 19.
+inline std::vector<int> deckInOrder() {
+    std::vector<int> order(kDeckSize);
+    std::iota(order.begin(), order.end(), 0);
+    return order;
+}
+
+class GameFixture : public ::testing::Test {
+protected:
+    explicit GameFixture(std::vector<int> deckOrder = deckInOrder()) {
+        auto scripted = std::make_unique<ScriptedRandom>(deckDraws(deckOrder));
+        random = scripted.get();
+        board = std::make_unique<Board>(windows, std::move(scripted));
+        board->init();
+    }
+
+    player& addHuman(const std::string& name, Integer token = 0) {
+        return board->addPlayer(name, false, token);
+    }
+    player& addComputer(const std::string& name, Integer token = 0) {
+        return board->addPlayer(name, true, token);
+    }
+
+    // The two dice of the next throw.
+    void nextThrow(int a, int b) { random->pushFaces({a, b}); }
+
+    // Puts a player's token on a cell without Go money; the log is cleared.
+    void placeAt(player& p, Integer cellId) {
+        const Integer steps = static_cast<Integer>((cellId - p.getPosition() + 40) % 40);
+        if (steps != 0) p.move(steps, true);
+        rec.clear();
+    }
+    // Brings a balance to the value through the player's own money operations.
+    void setBalance(player& p, Integer value) {
+        if (value > p.getBalance()) p.credit(static_cast<Integer>(value - p.getBalance()));
+        if (value < p.getBalance()) p.debit(static_cast<Integer>(p.getBalance() - value));
+        rec.clear();
+    }
+    void give(player& p, std::initializer_list<Integer> cells) {
+        for (Integer c : cells) p.newlyOwn(*board->getCell(c));
+        rec.clear();
+    }
+    Street& street(Integer cellId) { return *board->getCell(cellId)->asStreet(); }
+    Property& prop(Integer cellId) { return board->getCell(cellId)->asProperty()->getProp(); }
+    // Builds hotels on an owned street as its owner would, without paying.
+    void putHotels(Integer cellId, int count) {
+        for (int i = 0; i < count; ++i) street(cellId).addHotel();
+        rec.clear();
+    }
+    CellInfoWindow& card() { return windows.cellInfo; }
+    TradingCardWindow& trading() { return windows.trading; }
+
+    Recorder rec;
+    Windows windows{rec, rec, rec};
+    ScriptedRandom* random = nullptr;
+    std::unique_ptr<Board> board;
+};
+
+}  // namespace gw::test

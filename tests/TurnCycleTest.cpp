@@ -1,0 +1,220 @@
+// A turn from the throw to the hand-over: moves, Go money, doubles, jail and the two
+// refusals of End Turn, checked against the recorded order of window calls and sounds.
+#include "GameFixture.h"
+
+namespace gw::test {
+namespace {
+
+class TurnCycle : public GameFixture {
+protected:
+    TurnCycle() {
+        ann = &addHuman("Ann", 3);
+        bob = &addHuman("Bob", 5);
+    }
+    player* ann;
+    player* bob;
+};
+
+TEST_F(TurnCycle, ThrowPassingGoWalksInTwoStrokesWithTheGoMoneyBetween) {
+    placeAt(*ann, 38);
+    nextThrow(2, 3);
+    board->rollDice();
+    const std::vector<std::string> expected = {
+        "UpdateTurnPlaying(2)", "showCell(38)",         "MoveToken(0,38,39)",
+        "sound: buy.wav",       "showNegBalance(false)", "UpdatePlayers",
+        "MoveToken(0,0,3)",
+    };
+    EXPECT_EQ(rec.only({"UpdateTurnPlaying", "showCell", "MoveToken", "sound", "showNegBalance",
+                        "UpdatePlayers"}),
+              expected);
+    EXPECT_EQ(ann->getPosition(), 3);
+    EXPECT_EQ(ann->getBalance(), 1700);
+}
+
+TEST_F(TurnCycle, LandingExactlyOnGoPaysOnceAndMovingWithPenaltyPaysNothing) {
+    placeAt(*ann, 38);
+    ann->move(2, false);
+    EXPECT_EQ(ann->getPosition(), 0);
+    EXPECT_EQ(ann->getBalance(), 1700);
+    EXPECT_EQ(rec.count("sound: buy.wav"), 1);
+    placeAt(*bob, 38);
+    bob->move(5, true);
+    EXPECT_EQ(bob->getPosition(), 3);
+    EXPECT_EQ(bob->getBalance(), 1500);
+}
+
+TEST_F(TurnCycle, HumanTurnRollsLandsAndOpensEndTurn) {
+    nextThrow(1, 2);
+    board->playTurn();
+    EXPECT_EQ(ann->getPosition(), 3);
+    EXPECT_EQ(rec.log.back(), "UpdateTurnPlaying(1)");
+    EXPECT_TRUE(card().isVisible());  // the purchase card of Saint-Jacques
+    EXPECT_EQ(card().cardOpt(), kOptBuy);
+}
+
+TEST_F(TurnCycle, DoublesLetTheSamePlayerGoAgain) {
+    nextThrow(3, 3);
+    board->playTurn();
+    EXPECT_TRUE(rec.has("showInfo: Ann, you have rolled doubles, go again!"));
+    EXPECT_EQ(ann->getPosition(), 6);
+    card().forget_Click();
+    board->endTurn();
+    EXPECT_EQ(&board->getCurrPlayer(), ann);
+    EXPECT_EQ(rec.log.back(), "showInJail");
+    EXPECT_EQ(rec.log[rec.log.size() - 2], "UpdateTurnPlaying(0)");
+}
+
+TEST_F(TurnCycle, ThreeDoublesSendToJailWithoutGoMoneyAndEndTheTurn) {
+    placeAt(*ann, 34);
+    nextThrow(1, 1);
+    board->rollDice();  // to 36: a card cell, not acted on here
+    nextThrow(1, 1);
+    board->rollDice();  // to 38
+    rec.clear();
+    nextThrow(2, 2);
+    board->rollDice();
+    const std::vector<std::string> expected = {
+        "showInfo: Ann, you have rolled doubles, go again!",
+        "showInfo: Ann, you have rolled three doubles, go to jail!",
+        "sound2: newpolice.wav",
+        "showInfo: Go to jail!",
+        "sound: jailthere.wav",
+        "Showdice(2,2)",
+    };
+    EXPECT_EQ(rec.only({"showInfo", "sound", "Showdice"}), expected);
+    EXPECT_EQ(ann->getPosition(), 10);
+    EXPECT_TRUE(ann->IsInJail());
+    EXPECT_EQ(ann->getBalance(), 1500);  // the walk by Go paid nothing
+
+    board->endTurn();
+    EXPECT_EQ(&board->getCurrPlayer(), bob);
+    EXPECT_EQ(ann->getDoubleCount(), 0);
+}
+
+TEST_F(TurnCycle, DoubleThenPoliceVoidsTheRepeatThrow) {
+    placeAt(*ann, 24);
+    nextThrow(3, 3);
+    board->playTurn();  // 30: Police
+    EXPECT_TRUE(ann->IsInJail());
+    EXPECT_EQ(ann->getPosition(), 10);
+    EXPECT_TRUE(rec.has("sound: newpolice.wav"));
+    board->endTurn();
+    EXPECT_EQ(&board->getCurrPlayer(), bob);
+    EXPECT_TRUE(ann->getDidAction());
+    EXPECT_EQ(ann->getDoubleCount(), 0);
+}
+
+TEST_F(TurnCycle, JailThrowsFailTwiceThenTheThirdFailureFreesAndMoves) {
+    ann->goToJail();
+    rec.clear();
+    for (int attempt = 1; attempt <= 2; ++attempt) {
+        nextThrow(1, 2);
+        board->rollDice();
+        EXPECT_TRUE(ann->IsInJail());
+        EXPECT_EQ(ann->getPosition(), 10);
+        EXPECT_EQ(ann->getJailCount(), attempt);
+        EXPECT_TRUE(rec.has("showInfo: Ann, no doubles, stay in jail!"));
+        EXPECT_TRUE(rec.has("UpdateTurnPlaying(1)"));
+        rec.clear();
+    }
+    nextThrow(1, 2);
+    board->rollDice();
+    EXPECT_TRUE(rec.has("showInfo: Ann, no doubles, stay in jail!"));
+    EXPECT_FALSE(ann->IsInJail());
+    EXPECT_EQ(ann->getJailCount(), 0);
+    EXPECT_EQ(ann->getPosition(), 13);
+    EXPECT_EQ(ann->getBalance(), 1500);
+}
+
+TEST_F(TurnCycle, DoublesInJailFreeMoveAndThrowAgain) {
+    ann->goToJail();
+    rec.clear();
+    nextThrow(4, 4);
+    board->playTurn();
+    EXPECT_TRUE(rec.has("showInfo: Good JobAnn, you can now get out of jail!"));
+    EXPECT_FALSE(ann->IsInJail());
+    EXPECT_EQ(ann->getPosition(), 18);
+    card().forget_Click();
+    board->endTurn();
+    EXPECT_EQ(&board->getCurrPlayer(), ann);
+}
+
+TEST_F(TurnCycle, EndTurnRefusedOnAPropertyNotDealtWithThenOnDebt) {
+    nextThrow(1, 2);
+    board->playTurn();  // Saint-Jacques, unowned: the card is up
+    rec.clear();
+    board->endTurn();
+    EXPECT_EQ(rec.log.front(), "showInfo: You must do something before you end your turn");
+    EXPECT_EQ(&board->getCurrPlayer(), ann);
+    EXPECT_TRUE(card().isVisible());  // the landing ran again
+
+    card().forget_Click();
+    setBalance(*ann, -1);
+    board->endTurn();
+    EXPECT_EQ(rec.log.front(), "showInfo: You must make money first");
+    EXPECT_EQ(&board->getCurrPlayer(), ann);
+    setBalance(*ann, 0);
+    board->endTurn();  // a balance of exactly 0 passes
+    EXPECT_EQ(&board->getCurrPlayer(), bob);
+}
+
+TEST_F(TurnCycle, QuietCellsNeedNoActionBeforeTheTurnEnds) {
+    for (Integer cellId : {0, 10, 20}) {
+        placeAt(*ann, cellId);
+        setBalance(*ann, 0);
+        board->endTurn();
+        EXPECT_EQ(&board->getCurrPlayer(), bob) << cellId;
+        board->endTurn();  // Bob on Go
+        ASSERT_EQ(&board->getCurrPlayer(), ann);
+    }
+}
+
+TEST(TurnOrder, BankruptPlayersAreSkippedAndTheOrderWraps) {
+    Recorder rec;
+    Windows windows(rec, rec, rec);
+    Board board(windows, std::make_unique<SeededRandom>(7));
+    board.init();
+    for (const char* name : {"A", "B", "C", "D"}) board.addPlayer(name, false, 0);
+    board.endTurn();                          // A to B
+    board.getCurrPlayer().declareBankruptcy();  // B gives up: on to C
+    EXPECT_EQ(board.getCurrPlayerIndex(), 2);
+    board.endTurn();                          // C to D
+    board.getCurrPlayer().declareBankruptcy();  // the last slot: wraps to A
+    EXPECT_EQ(board.getCurrPlayerIndex(), 0);
+    board.endTurn();  // from A, past B, to C
+    EXPECT_EQ(board.getCurrPlayerIndex(), 2);
+}
+
+TEST(TurnOrder, ShufflePlayersScattersIntoARingAndRenumbers) {
+    Recorder rec;
+    Windows windows(rec, rec, rec);
+    // Draws for four players: slots 2, 2 (taken: on to 3), 3 (taken: wraps to 0), 0 (on to 1).
+    auto random = std::make_unique<ScriptedRandom>(deckDraws(deckInOrder()));
+    ScriptedRandom& script = *random;
+    Board board(windows, std::move(random));
+    board.init();
+    for (const char* name : {"A", "B", "C", "D"}) board.addPlayer(name, false, 0);
+    for (int s : {2, 2, 3, 0}) script.push(ScriptedRandom::slot(s, 4));
+    board.shufflePlayers();
+    // order = {3, 4, 1, 2}: A goes to place 2, B to 3, C to 0, D to 1.
+    std::vector<std::string> names;
+    for (Integer i = 0; i < 4; ++i) {
+        names.push_back(board.getPlayer(i)->getName());
+        EXPECT_EQ(board.getPlayer(i)->getId(), i);
+    }
+    EXPECT_EQ(names, (std::vector<std::string>{"C", "D", "A", "B"}));
+}
+
+TEST(TurnOrder, ShuffleOfOnePlayerKeepsSlotZero) {
+    Recorder rec;
+    Windows windows(rec, rec, rec);
+    Board board(windows, std::make_unique<SeededRandom>(3));
+    board.init();
+    board.addPlayer("Solo", false, 0);
+    board.shufflePlayers();
+    EXPECT_EQ(board.getPlayer(0)->getName(), "Solo");
+    EXPECT_EQ(board.getPlayer(0)->getId(), 0);
+}
+
+}  // namespace
+}  // namespace gw::test
