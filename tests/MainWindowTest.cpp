@@ -1,0 +1,236 @@
+// The main window's buttons, message line and board marks as the rules drive them, and
+// the clicks of a human through it.
+#include <functional>
+
+#include "GameFixture.h"
+
+namespace gw::test {
+namespace {
+
+// A delay that runs a click inside the first wait it is asked for, as a real wait would
+// when the user clicks during an animation.
+class ClickingDelay final : public Delay {
+public:
+    std::function<void()> click;
+    int waits = 0;
+    void wait(Integer) override {
+        ++waits;
+        if (click) std::exchange(click, nullptr)();
+    }
+};
+
+class Window : public GameFixture {
+protected:
+    Window() {
+        rec.model = &model;
+        model.init(*board);
+    }
+    void start(std::initializer_list<bool> computers) {
+        int n = 0;
+        for (bool computer : computers) {
+            board->addPlayer("P" + std::to_string(n), computer, static_cast<Integer>(n + 4));
+            ++n;
+        }
+        for (int s = 0; s < n; ++s) random->push(ScriptedRandom::slot(s, n));  // keep the order
+        model.startGame();
+    }
+    ClickingDelay delay;
+    MainWindow model{rec, delay};
+};
+
+TEST_F(Window, AHumanFirstIsAskedToRoll) {
+    start({false, true});
+    EXPECT_TRUE(model.rollDice().isOpen());
+    EXPECT_FALSE(model.endTurn().enabled);
+    EXPECT_FALSE(model.declareBank().visible);
+    EXPECT_EQ(model.Label2(), "P0");
+    EXPECT_EQ(model.turnBar(), 0);
+    EXPECT_EQ(model.playToken(), 4);
+    EXPECT_EQ(model.panel(1).balance.caption, "1500");
+    EXPECT_TRUE(model.bigToken(1).visible);
+    EXPECT_EQ(model.Label1(), "Let the game begin!");
+}
+
+TEST_F(Window, RollThenEndTurnHandsOverAndWritesTheTurnLine) {
+    start({false, false});
+    nextThrow(5, 6);  // to Notre-Dame, unowned
+    model.rollDice_Click();
+    EXPECT_EQ(rec.log.front().rfind("sound: DICEROLL.wav", 0), 0u);
+    EXPECT_FALSE(model.rollDice().enabled);
+    EXPECT_TRUE(model.endTurn().isOpen());
+    EXPECT_EQ(model.bigToken(0).cell, 11);
+    EXPECT_EQ(model.dieFace1(), 5);
+    EXPECT_EQ(model.dieFace2(), 6);
+    model.endTurn_Click();  // refused: the purchase card was not answered
+    EXPECT_EQ(model.Label1(), "P0, its your turn to play.");
+    EXPECT_EQ(board->getCurrPlayerIndex(), 0);
+    card().forget_Click();
+    model.endTurn_Click();
+    EXPECT_EQ(board->getCurrPlayerIndex(), 1);
+    EXPECT_EQ(model.Label1(), "P1, its your turn to play.");
+    EXPECT_TRUE(model.rollDice().isOpen());
+}
+
+TEST_F(Window, ASecondClickOnRollDuringTheAnimationIsDropped) {
+    start({false, false});
+    nextThrow(1, 2);
+    delay.click = [this] { model.rollDice_Click(); };
+    model.rollDice_Click();
+    EXPECT_EQ(rec.count("sound: DICEROLL.wav"), 1);
+    EXPECT_EQ(board->getCurrPlayer().getPosition(), 3);
+}
+
+TEST_F(Window, AComputerFirstPlaysUntilAHumanIsCurrent) {
+    start({true, false});
+    EXPECT_EQ(board->getCurrPlayerIndex(), 1);
+    EXPECT_TRUE(model.rollDice().isOpen());
+    EXPECT_GT(rec.count("wait 20") + rec.count("sound: DICEROLL.wav"), 0);
+}
+
+TEST_F(Window, JailButtonsFollowBalanceAndCard) {
+    start({false, false});
+    player& p = board->getCurrPlayer();
+    p.goToJail();
+    setBalance(p, 49);
+    model.showInJail();
+    EXPECT_TRUE(model.pay50Rent().visible);
+    EXPECT_FALSE(model.pay50Rent().enabled);
+    EXPECT_FALSE(model.useJFLCard().visible);
+    EXPECT_EQ(model.Label1(), "P0, you are in jail. Please roll a double or pay 50 to get out!");
+    setBalance(p, 50);
+    p.setHasGoJFC(true);
+    model.showInJail();
+    EXPECT_TRUE(model.pay50Rent().isOpen());
+    EXPECT_TRUE(model.useJFLCard().visible);
+    nextThrow(1, 2);
+    model.pay50Rent_Click();  // leaves and throws in the same click, without the dice sound
+    EXPECT_FALSE(p.IsInJail());
+    EXPECT_EQ(p.getPosition(), 13);
+    EXPECT_FALSE(rec.has("sound: DICEROLL.wav"));
+    EXPECT_FALSE(model.pay50Rent().visible);
+}
+
+TEST_F(Window, ARentShortfallShowsOnlyBankruptcyUntilMoneyComesIn) {
+    start({false, false});
+    player& p0 = board->getCurrPlayer();
+    player& p1 = *board->getPlayer(1);
+    give(p1, {39});
+    placeAt(p0, 39);
+    setBalance(p0, 40);
+    board->getCell(39)->doAction(p0);  // the rent card: 50 due
+    EXPECT_TRUE(rec.has("showInfo: You cannot pay the rent, you must get $10"));
+    EXPECT_FALSE(model.rollDice().visible);
+    EXPECT_FALSE(model.endTurn().visible);
+    EXPECT_TRUE(model.declareBank().isOpen());
+    p0.credit(10);  // the test of the rent, not the sign of the balance, decides
+    EXPECT_TRUE(model.endTurn().visible);
+    EXPECT_FALSE(model.declareBank().visible);
+    EXPECT_FALSE(model.declareBank().enabled);
+}
+
+TEST_F(Window, DeclaringBankruptcyEndsATwoPlayerGame) {
+    start({false, false});
+    player& p0 = board->getCurrPlayer();
+    give(*board->getPlayer(1), {39});
+    placeAt(p0, 39);
+    setBalance(p0, 10);
+    board->getCell(39)->doAction(p0);
+    model.declareBank_Click();
+    EXPECT_TRUE(p0.isBankrupt2());
+    EXPECT_TRUE(model.gameEndShown());
+    EXPECT_FALSE(model.isVisible());
+    EXPECT_FALSE(model.bigToken(0).visible);
+    EXPECT_EQ(model.panel(0).balance.caption, "Bankrupt");
+    EXPECT_TRUE(rec.has("sound: Bankrupt.wav"));
+}
+
+TEST_F(Window, ADebtOfAComputerClosesEveryButton) {
+    player& cpu = addComputer("Hal");
+    addHuman("Ann");
+    placeAt(cpu, 20);  // a free stop: the sign of the balance decides
+    model.showNegBalance(true);
+    EXPECT_FALSE(model.rollDice().visible);
+    EXPECT_FALSE(model.endTurn().enabled);
+    EXPECT_TRUE(model.declareBank().visible);
+    EXPECT_FALSE(model.declareBank().enabled);
+}
+
+TEST_F(Window, CellClicksOpenCardsOnlyOnBuyableCellsAndOnlyForAHuman) {
+    start({false, false});
+    player& p0 = board->getCurrPlayer();
+    model.cell_Click(10);
+    model.cell_Click(4);
+    EXPECT_FALSE(card().isVisible());
+    model.cell_Click(39);
+    EXPECT_TRUE(card().isVisible());
+    EXPECT_EQ(card().cardOpt(), kOptInfo);
+    card().Ok_Click(0);
+
+    // On the cell under the token before the roll, the landing runs again.
+    give(*board->getPlayer(1), {1});
+    placeAt(p0, 1);
+    p0.setDidAction(false);
+    model.cell_Click(1);
+    EXPECT_EQ(card().cardOpt(), kOptRent);
+    card().payRent_Click();
+    model.cell_Click(1);
+    EXPECT_EQ(card().cardOpt(), kOptTrade);  // dealt with: the card only, open to a trade
+    card().Ok_Click(0);
+
+    p0.goToJail();
+    model.showInfo("");
+    model.cell_Click(5);
+    EXPECT_TRUE(card().isVisible());
+    EXPECT_TRUE(model.pay50Rent().visible);  // the jail buttons and message come back
+    EXPECT_EQ(model.Label1(), "P0, you are in jail. Please roll a double or pay 50 to get out!");
+}
+
+TEST_F(Window, BoardMarksFollowTheRules) {
+    start({false, false});
+    player& p0 = board->getCurrPlayer();
+    player& p1 = *board->getPlayer(1);
+    placeAt(p0, 8);
+    placeAt(p1, 8);
+    board->getCell(8)->display();
+    EXPECT_EQ(model.square(8, 0), 4);
+    EXPECT_EQ(model.square(8, 1), 5);
+    EXPECT_EQ(model.square(8, 2), kNoPicture);
+    give(p1, {8});
+    EXPECT_EQ(model.ownerMark(8), 5);
+    p1.mortgageProp(8);
+    EXPECT_TRUE(model.mortgageShown(8));
+    EXPECT_EQ(rec.count("sound: mortaged.wav"), 1);
+    p1.unmortgageProp(8);  // lifting a mortgage is silent
+    EXPECT_FALSE(model.mortgageShown(8));
+    EXPECT_EQ(rec.count("sound: mortaged.wav"), 1);
+    model.UpdatePlayers();
+    EXPECT_EQ(model.panel(1).balance.caption, std::to_string(p1.getBalance()));
+    setBalance(p0, -50);
+    model.UpdatePlayers();
+    EXPECT_EQ(model.panel(0).balance.caption, "-50");
+}
+
+TEST_F(Window, AWalkTakesOneStepMoreThanItsCellsAndABackwardCallNone) {
+    start({false, false});
+    rec.clear();
+    delay.waits = 0;
+    model.MoveToken(0, 5, 8);
+    EXPECT_EQ(delay.waits, 4);
+    EXPECT_EQ(rec.count("sound: tokenmove.wav"), 4);
+    model.MoveToken(0, 5, 2);
+    EXPECT_EQ(delay.waits, 4);
+    EXPECT_EQ(model.bigToken(0).cell, 8);
+    model.Showdice(3, 4);
+    EXPECT_EQ(delay.waits, 10);
+}
+
+TEST_F(Window, SoundMenuSetsTheVolumeOfTheMainPlayers) {
+    model.Mute_Click();
+    model.Enable_Click();
+    const std::vector<std::string> expected = {"volume 0 -3000", "volume 1 -3000", "volume 0 -600",
+                                               "volume 1 -600"};
+    EXPECT_EQ(rec.log, expected);
+}
+
+}  // namespace
+}  // namespace gw::test
