@@ -44,7 +44,9 @@ TEST(ComputerGame, AHundredThousandTurnsKeepTheStackFlat) {
         });
         board.playTurn();
         ++games;
-        if (board.countSolvent() > 1) EXPECT_EQ(turns, kTurns);  // only the cap stops a game
+        if (board.countSolvent() > 1) {
+            EXPECT_EQ(turns, kTurns);  // only the cap stops a game
+        }
     }
     EXPECT_TRUE(flat);
     // Deeper waits come from nested card landings, never from the number of turns.

@@ -33,6 +33,9 @@ public:
     void init();
     // The cell at a position, or null outside 0 to 39; the position is not wrapped.
     BoardCell* getCell(Integer pos) const;
+    // The buyable cell or the street at a position, or null for any other cell.
+    PropertyCell* propertyAt(Integer pos) const;
+    Street* streetAt(Integer pos) const;
     // Empties the player slots; init is what sets the counts back to 0.
     void deleteAllPlayer();
     // Stores the player in the next slot; a full table takes no more.

@@ -99,4 +99,14 @@ BoardCell* Board::getCell(Integer pos) const {
     return cells_[static_cast<std::size_t>(pos)].get();
 }
 
+PropertyCell* Board::propertyAt(Integer pos) const {
+    BoardCell* c = getCell(pos);
+    return c != nullptr ? c->asProperty() : nullptr;
+}
+
+Street* Board::streetAt(Integer pos) const {
+    BoardCell* c = getCell(pos);
+    return c != nullptr ? c->asStreet() : nullptr;
+}
+
 }  // namespace gw

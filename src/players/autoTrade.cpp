@@ -32,7 +32,7 @@ void player::autoTrade() {
         Street* target = nullptr;
         Integer c = 0;
         for (Integer i = 0; i < kCellCount; ++i) {
-            Street* s = board_.getCell(i)->asStreet();
+            Street* s = board_.streetAt(i);
             if (s != nullptr && s->getDistId() == distId) {
                 target = s;
                 c = i;

@@ -25,7 +25,7 @@ Integer player::canPayRent(Integer) {
 Integer player::calcAssets() {
     long long total = balance_;
     for (Integer i = 0; i < kCellCount; ++i) {
-        const PropertyCell* prop = board_.getCell(i)->asProperty();
+        const PropertyCell* prop = board_.propertyAt(i);
         if (prop == nullptr || prop->getProp().getOwners() != this) continue;
         if (prop->getProp().isMortgaged2()) {
             total += rounded(prop->getProp().getPrice() * 0.5);

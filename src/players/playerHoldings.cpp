@@ -15,7 +15,7 @@ int columnOf(const Street& s) { return s.getDistId() % 10 - 1; }
 }  // namespace
 
 bool player::canBuy(Integer cellId) {
-    PropertyCell* c = board_.getCell(cellId) ? board_.getCell(cellId)->asProperty() : nullptr;
+    const PropertyCell* c = board_.propertyAt(cellId);
     return c != nullptr && c->getProp().getOwners() == nullptr &&
            c->getProp().getPrice() <= balance_;
 }
@@ -56,8 +56,7 @@ bool player::ownDist(Integer iDist) {
 }
 
 bool player::canBuild(Integer cellId) {
-    BoardCell* c = board_.getCell(cellId);
-    Street* s = c != nullptr ? c->asStreet() : nullptr;
+    const Street* s = board_.streetAt(cellId);
     if (s == nullptr || s->getProp().getOwners() != this) return false;
     return ownDist(rounded(s->getDistId() / 10.0 - 1)) && s->getHotelCount() < kMaxHotels &&
            !s->getProp().isMortgaged2() && s->getHotelCost() <= balance_;
@@ -65,44 +64,41 @@ bool player::canBuild(Integer cellId) {
 
 void player::buildHotel(Integer cellId) {
     if (!canBuild(cellId)) return;
-    Street& s = *board_.getCell(cellId)->asStreet();
+    Street& s = *board_.streetAt(cellId);
     s.addHotel();
     debit(s.getHotelCost());
     windows().main.showHotel(cellId);
 }
 
 bool player::canSellHotel(Integer cellId) {
-    BoardCell* c = board_.getCell(cellId);
-    const Street* s = c != nullptr ? c->asStreet() : nullptr;
+    const Street* s = board_.streetAt(cellId);
     return s != nullptr && s->getProp().getOwners() == this && s->getHotelCount() >= 1;
 }
 
 void player::sellHotel(Integer cellId) {
     if (!canSellHotel(cellId)) return;
-    Street& s = *board_.getCell(cellId)->asStreet();
+    Street& s = *board_.streetAt(cellId);
     s.destroyHotel();
     credit(s.getHotelCost());
     windows().main.showHotel(cellId);
 }
 
 bool player::canMort(Integer cellId) {
-    BoardCell* c = board_.getCell(cellId);
-    const PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    const PropertyCell* prop = board_.propertyAt(cellId);
     return prop != nullptr && prop->getProp().getOwners() == this &&
            !prop->getProp().isMortgaged2() && prop->getHotelCount() == 0;
 }
 
 void player::mortgageProp(Integer cellId) {
     if (!canMort(cellId)) return;
-    Property& prop = board_.getCell(cellId)->asProperty()->getProp();
+    Property& prop = board_.propertyAt(cellId)->getProp();
     prop.Mortgage();
     credit(prop.getMortgage());
     windows().main.showMort(cellId);
 }
 
 bool player::canUnmort(Integer cellId) {
-    BoardCell* c = board_.getCell(cellId);
-    const PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    const PropertyCell* prop = board_.propertyAt(cellId);
     // Unrounded on purpose: a mortgage of 50 costs 55, yet 50 * 1.1 lies just above 55.
     return prop != nullptr && prop->getProp().getOwners() == this &&
            prop->getProp().isMortgaged2() && !(prop->getProp().getMortgage() * 1.1 > balance_);
@@ -110,7 +106,7 @@ bool player::canUnmort(Integer cellId) {
 
 void player::unmortgageProp(Integer cellId) {
     if (!canUnmort(cellId)) return;
-    Property& prop = board_.getCell(cellId)->asProperty()->getProp();
+    Property& prop = board_.propertyAt(cellId)->getProp();
     prop.Unmortgage();
     debit(rounded(prop.getMortgage() * 1.1));
     windows().main.showMort(cellId);

@@ -6,8 +6,7 @@
 namespace gw {
 
 void player::offerTrade(Integer cellId, Integer amount) {
-    BoardCell* c = board_.getCell(cellId);
-    PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    PropertyCell* prop = board_.propertyAt(cellId);
     if (prop == nullptr) return;
     player* owner = prop->getProp().getOwners();
     // An offer left on the table for a cell that has gone back to the bank has nobody to ask.
@@ -25,15 +24,14 @@ void player::offerTrade(Integer cellId, Integer amount) {
 }
 
 void player::doTrade(Integer cellId, Integer amount) {
-    BoardCell* c = board_.getCell(cellId);
-    PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    PropertyCell* prop = board_.propertyAt(cellId);
     if (prop == nullptr) return;
     player* seller = prop->getProp().getOwners();
     if (seller == nullptr) return;  // the bank does not sell through this card
-    seller->noMoreOwn(*c);
+    seller->noMoreOwn(*prop);
     seller->credit(amount);
     debit(amount);
-    newlyOwn(*c);
+    newlyOwn(*prop);
 }
 
 }  // namespace gw

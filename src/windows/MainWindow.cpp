@@ -125,8 +125,7 @@ void MainWindow::showCell(const OnCell& onCell, Integer cellId) {
 }
 
 void MainWindow::showOwner(Integer cellId) {
-    BoardCell* c = board_->getCell(cellId);
-    PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    const PropertyCell* prop = board_->propertyAt(cellId);
     if (prop == nullptr) return;
     const player* owner = prop->getProp().getOwners();
     ownedBy_[static_cast<std::size_t>(cellId)] =
@@ -135,16 +134,14 @@ void MainWindow::showOwner(Integer cellId) {
 }
 
 void MainWindow::showHotel(Integer cellId) {
-    BoardCell* c = board_->getCell(cellId);
-    const Street* s = c != nullptr ? c->asStreet() : nullptr;
+    const Street* s = board_->streetAt(cellId);
     if (s == nullptr) return;
     hotels_[static_cast<std::size_t>(cellId)] = s->getHotelCount();
     changed();
 }
 
 void MainWindow::showMort(Integer cellId) {
-    BoardCell* c = board_->getCell(cellId);
-    const PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    const PropertyCell* prop = board_->propertyAt(cellId);
     if (prop == nullptr) return;
     const bool mortgaged = prop->getProp().isMortgaged2();
     mortgaged_[static_cast<std::size_t>(cellId)] = mortgaged;
@@ -283,8 +280,7 @@ void MainWindow::cell_Click(Integer Index) {
     if (board_ == nullptr || !enabled_) return;
     player& p = current();
     if (p.isComputer2() || p.isBankrupt2()) return;
-    BoardCell* c = board_->getCell(Index);
-    PropertyCell* prop = c != nullptr ? c->asProperty() : nullptr;
+    PropertyCell* prop = board_->propertyAt(Index);
     if (prop == nullptr) return;
     Integer opt = 0;
     if (p.getPosition() == Index) {
