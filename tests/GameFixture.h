@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <numeric>
 #include <vector>
@@ -58,8 +59,13 @@ protected:
     }
     // Brings a balance to the value through the player's own money operations.
     void setBalance(player& p, Integer value) {
-        if (value > p.getBalance()) p.credit(static_cast<Integer>(value - p.getBalance()));
-        if (value < p.getBalance()) p.debit(static_cast<Integer>(p.getBalance() - value));
+        // In steps that each fit the 16-bit range.
+        while (value > p.getBalance()) {
+            p.credit(static_cast<Integer>(std::min(value - p.getBalance(), 30000)));
+        }
+        while (value < p.getBalance()) {
+            p.debit(static_cast<Integer>(std::min(p.getBalance() - value, 30000)));
+        }
         rec.clear();
     }
     void give(player& p, std::initializer_list<Integer> cells) {

@@ -157,5 +157,15 @@ TEST_F(Holdings, AReleasedCellChargesItsRentAgain) {
     EXPECT_EQ(ann->getBalance(), 1470);
 }
 
+TEST_F(Holdings, ABalanceStopsAtTheBoundsOfItsRangeInsteadOfWrapping) {
+    setBalance(*ann, 32000);
+    ann->credit(1000);
+    EXPECT_EQ(ann->getBalance(), 32767);
+    setBalance(*bob, -32000);
+    bob->debit(1000);
+    EXPECT_EQ(bob->getBalance(), -32768);
+    EXPECT_EQ(rec.log.back(), "UpdatePlayers");
+}
+
 }  // namespace
 }  // namespace gw::test
