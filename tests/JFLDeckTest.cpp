@@ -172,6 +172,7 @@ TEST_F(JailCard, DrawnItIsHeldThenUsedItReturnsBehindTheCursor) {
     EXPECT_EQ(ann->getPosition(), 22);
     EXPECT_EQ(ann->getBalance(), 1500);
 
+    drawTypes(5);  // others draw on: the cursor moves to 6
     ann->goToJail();
     ann->useGOJFC();
     EXPECT_FALSE(ann->hasGoJFC());
@@ -179,9 +180,10 @@ TEST_F(JailCard, DrawnItIsHeldThenUsedItReturnsBehindTheCursor) {
     EXPECT_FALSE(ann->IsInJail());
     EXPECT_EQ(ann->getPosition(), 10);
     EXPECT_EQ(ann->getBalance(), 1500);
-    EXPECT_EQ(types(), withJailAt(0));  // cursor on 1: back into slot 0
-    EXPECT_EQ(drawTypes(20), (std::vector<int>{0,  2,  3,  4,  5,  6,  7,  8,  9,  10,
-                                               11, 12, 13, 14, 15, 16, 17, 18, 19, 1}));
+    // Back into slot 5, the last that the cursor reaches; slots 1 to 5 move forward one.
+    EXPECT_EQ(types(), withJailAt(5));
+    EXPECT_EQ(drawTypes(20), (std::vector<int>{6,  7,  8,  9,  10, 11, 12, 13, 14, 15,
+                                               16, 17, 18, 19, 0,  2,  3,  4,  5,  1}));
 }
 
 TEST_F(JailCard, ABankruptHolderTakesItOutOfPlayForGood) {

@@ -1,0 +1,136 @@
+#include "LedgerWindow.h"
+
+#include "cells/PropertyCell.h"
+#include "cells/Street.h"
+
+namespace gw::sim {
+namespace {
+
+using Kind = Event::Kind;
+
+}  // namespace
+
+void LedgerWindow::attach(Board& board) {
+    board_ = &board;
+    for (Integer i = 0; i < board.getNumPlayer(); ++i) {
+        balances_[static_cast<std::size_t>(i)] = board.getPlayer(i)->getBalance();
+    }
+    for (Integer c = 0; c < kCellCount; ++c) {
+        const PropertyCell* prop = board.getCell(c)->asProperty();
+        const player* owner = prop != nullptr ? prop->getProp().getOwners() : nullptr;
+        const auto at = static_cast<std::size_t>(c);
+        shownOwner_[at] = owner != nullptr ? owner->getId() : -1;
+        shownMortgaged_[at] = prop != nullptr && prop->getProp().isMortgaged2();
+        shownHotels_[at] = prop != nullptr ? prop->getHotelCount() : 0;
+    }
+}
+
+void LedgerWindow::UpdatePlayers() {
+    if (board_ == nullptr) return;
+    Event e;
+    e.current = board_->getCurrPlayerIndex();
+    int changed = 0;
+    for (Integer i = 0; i < board_->getNumPlayer(); ++i) {
+        const auto slot = static_cast<std::size_t>(i);
+        e.balances[slot] = board_->getPlayer(i)->getBalance();
+        if (e.balances[slot] == balances_[slot]) continue;
+        ++changed;
+        e.who = i;
+        e.delta = e.balances[slot] - balances_[slot];
+    }
+    balances_ = e.balances;
+    if (changed > 1 && fault_.empty()) {
+        fault_ = std::to_string(changed) + " balances changed between two updates of the panel";
+    }
+    if (!record_) return;
+    describeStand(e);
+    events_.push_back(e);
+}
+
+// What the player at turn stands on, as far as the bank's payments depend on it.
+void LedgerWindow::describeStand(Event& e) const {
+    player& p = *board_->getPlayer(static_cast<Integer>(e.current));
+    e.position = p.getPosition();
+    e.inJail = p.IsInJail();
+    BoardCell& here = *board_->getCell(e.position);
+    if (here.kind() == CellKind::JFL) {
+        // The cursor stands just past the card drawn last.
+        const JFLDeck& deck = board_->getJFLDeck();
+        e.cardSlot = static_cast<Integer>((deck.getCursor() + kDeckSize - 1) % kDeckSize);
+        e.card = deck.cardAt(e.cardSlot).getType();
+    } else if (const PropertyCell* prop = here.asProperty()) {
+        const player* owner = prop->getProp().getOwners();
+        if (owner != nullptr && owner != &p && !prop->getProp().isMortgaged2()) {
+            e.rentDue = prop->getRent();
+            e.rentOwner = owner->getId();
+        }
+    } else if (here.isTax()) {
+        e.assets = p.calcAssets();
+    }
+}
+
+void LedgerWindow::MoveToken(Integer id, Integer from, Integer to) {
+    if (!record_ || board_ == nullptr) return;
+    Event e;
+    e.kind = Kind::Move;
+    e.current = board_->getCurrPlayerIndex();
+    e.who = id;
+    e.from = from;
+    e.to = to;
+    events_.push_back(e);
+}
+
+Event LedgerWindow::mark(Event::Kind kind, Integer cellId) const {
+    Event e;
+    e.kind = kind;
+    e.current = board_->getCurrPlayerIndex();
+    e.cell = cellId;
+    const PropertyCell& prop = *board_->getCell(cellId)->asProperty();
+    const player* owner = prop.getProp().getOwners();
+    e.owner = owner != nullptr ? owner->getId() : -1;
+    e.mortgaged = prop.getProp().isMortgaged2();
+    e.hotels = prop.getHotelCount();
+    const auto at = static_cast<std::size_t>(cellId);
+    e.shownOwner = shownOwner_[at];
+    e.shownMortgaged = shownMortgaged_[at];
+    e.shownHotels = shownHotels_[at];
+    return e;
+}
+
+// A cell that the player at turn takes from another player, or from itself, is a sale;
+// one taken from the bank is a purchase, one given away a bankruptcy.
+void LedgerWindow::showOwner(Integer cellId) {
+    if (board_ == nullptr) return;
+    const Event e = mark(Kind::Owner, cellId);
+    if (e.owner == e.current && e.shownOwner >= 0) {
+        ++trades_;
+        if (e.shownOwner == e.current) ++selfTrades_;
+    }
+    shownOwner_[static_cast<std::size_t>(cellId)] = e.owner;
+    if (record_) events_.push_back(e);
+}
+
+void LedgerWindow::showHotel(Integer cellId) {
+    if (board_ == nullptr) return;
+    const Event e = mark(Kind::Hotel, cellId);
+    if (e.hotels > e.shownHotels) hotelsBuilt_ += e.hotels - e.shownHotels;
+    shownHotels_[static_cast<std::size_t>(cellId)] = e.hotels;
+    if (record_) events_.push_back(e);
+}
+
+void LedgerWindow::showMort(Integer cellId) {
+    if (board_ == nullptr) return;
+    const Event e = mark(Kind::Mort, cellId);
+    shownMortgaged_[static_cast<std::size_t>(cellId)] = e.mortgaged;
+    if (record_) events_.push_back(e);
+}
+
+void LedgerWindow::showBankRupt() {
+    if (board_ == nullptr || !record_) return;
+    Event e;
+    e.kind = Kind::Bankrupt;
+    e.current = board_->getCurrPlayerIndex();
+    events_.push_back(e);
+}
+
+}  // namespace gw::sim
