@@ -11,14 +11,14 @@
 namespace gw {
 namespace {
 
-struct CellSpec {
+struct RingEntry {
     const char* name;
     CellKind kind;
     Integer price;
     Integer distId;
 };
 
-constexpr std::array<CellSpec, kCellCount> kRing = {{
+constexpr std::array<RingEntry, kCellCount> kRing = {{
     {"GO", CellKind::Go, 0, 0},
     {"Saint-Antoine", CellKind::Street, 90, 11},
     {"JFL", CellKind::JFL, 0, 0},
@@ -61,19 +61,19 @@ constexpr std::array<CellSpec, kCellCount> kRing = {{
     {"The Boulevard", CellKind::Street, 500, 82},
 }};
 
-std::unique_ptr<BoardCell> makeCell(const CellSpec& spec, std::unique_ptr<cell> plain) {
-    switch (spec.kind) {
+std::unique_ptr<BoardCell> makeCell(const RingEntry& entry, std::unique_ptr<cell> plain) {
+    switch (entry.kind) {
         case CellKind::Go:
         case CellKind::Jail:
-        case CellKind::OlympicPark: return std::make_unique<QuietCell>(spec.kind, std::move(plain));
+        case CellKind::OlympicPark: return std::make_unique<QuietCell>(entry.kind, std::move(plain));
         case CellKind::GoToJail: return std::make_unique<goToJail>(std::move(plain));
         case CellKind::IncomeTax: return std::make_unique<IncomeTax>(std::move(plain));
         case CellKind::LuxuryTax: return std::make_unique<LuxuryTax>(std::move(plain));
         case CellKind::JFL: return std::make_unique<JFL>(std::move(plain));
-        case CellKind::Metro: return std::make_unique<Metro>(std::move(plain), spec.price);
-        case CellKind::Utility: return std::make_unique<Utility>(std::move(plain), spec.price);
+        case CellKind::Metro: return std::make_unique<Metro>(std::move(plain), entry.price);
+        case CellKind::Utility: return std::make_unique<Utility>(std::move(plain), entry.price);
         case CellKind::Street:
-            return std::make_unique<Street>(std::move(plain), spec.price, spec.distId);
+            return std::make_unique<Street>(std::move(plain), entry.price, entry.distId);
     }
     return nullptr;
 }
