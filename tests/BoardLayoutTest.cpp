@@ -89,8 +89,8 @@ TEST_F(Layout, PoliceSendsTheTokenRoundByGoToJailWithoutPay) {
     placeAt(ann, 30);
     board->getCell(30)->doAction(ann);
     const std::vector<std::string> expected = {
-        "sound: newpolice.wav", "UpdateTurnPlaying(2)", "showCell(30)", "MoveToken(0,30,39)",
-        "MoveToken(0,0,0)",     "UpdateTurnPlaying(2)", "showCell(0)",  "MoveToken(0,0,10)",
+        "sound: newpolice.wav",  "UpdateTurnPlaying(2)", "showCell(30)", "MoveToken(0,30,39)",
+        "MoveToken(0,0,0)",      "UpdateTurnPlaying(2)", "showCell(0)",  "MoveToken(0,0,10)",
         "showInfo: Go to jail!", "sound: jailthere.wav", "showCell(30)",
     };
     EXPECT_EQ(rec.log, expected);

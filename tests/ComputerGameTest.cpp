@@ -33,7 +33,8 @@ TEST(ComputerGame, AHundredThousandTurnsKeepTheStackFlat) {
     for (std::uint64_t seed = 1; turns < kTurns; ++seed) {
         Board board(windows, std::make_unique<SeededRandom>(seed));
         board.init();
-        for (int i = 0; i < 6; ++i) board.addPlayer("C" + std::to_string(i), true, static_cast<Integer>(i));
+        for (int i = 0; i < 6; ++i)
+            board.addPlayer("C" + std::to_string(i), true, static_cast<Integer>(i));
         board.shufflePlayers();
         board.setOnTurnPlayed([&] {
             const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));

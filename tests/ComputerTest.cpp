@@ -79,8 +79,7 @@ TEST_F(Computer, BuysWithItsLastDollarThenRaisesAHundredByMortgaging) {
     EXPECT_TRUE(prop(12).isMortgaged2());  // the cell just bought
     EXPECT_EQ(cpu->getBalance(), 100);
     EXPECT_TRUE(cpu->getDidAction());
-    const std::vector<std::string> sounds = {"sound: BUY.wav", "sound: pay.wav",
-                                             "sound: buy.wav"};
+    const std::vector<std::string> sounds = {"sound: BUY.wav", "sound: pay.wav", "sound: buy.wav"};
     EXPECT_EQ(rec.only({"sound"}), sounds);
     EXPECT_EQ(rec.only({"wait"}), std::vector<std::string>{"wait 20"});
 }

@@ -79,9 +79,8 @@ TEST_F(Holdings, HotelsNeedNotBeEvenAndStopAtFour) {
 TEST_F(Holdings, BuildHotelAddsPaysAndShowsInThatOrder) {
     give(*ann, {1, 3});
     ann->buildHotel(1);
-    const std::vector<std::string> expected = {"showCell(1)", "sound: pay.wav",
-                                               "showNegBalance(false)", "UpdatePlayers",
-                                               "showHotel(1)"};
+    const std::vector<std::string> expected = {
+        "showCell(1)", "sound: pay.wav", "showNegBalance(false)", "UpdatePlayers", "showHotel(1)"};
     EXPECT_EQ(rec.log, expected);
 }
 

@@ -12,7 +12,8 @@ namespace {
 
 TEST(Dice, FacesComeFromTheRemainderOfTenThousandValues) {
     std::array<int, 7> count{};
-    for (int k = 0; k < 10000; ++k) ++count[static_cast<std::size_t>(Dice::faceOf((k + 0.5) / 10000))];
+    for (int k = 0; k < 10000; ++k)
+        ++count[static_cast<std::size_t>(Dice::faceOf((k + 0.5) / 10000))];
     EXPECT_EQ(count[1], 1666);
     EXPECT_EQ(count[6], 1666);
     for (int face = 2; face <= 5; ++face) EXPECT_EQ(count[static_cast<std::size_t>(face)], 1667);

@@ -20,9 +20,8 @@ TEST_F(TurnCycle, ThrowPassingGoWalksInTwoStrokesWithTheGoMoneyBetween) {
     nextThrow(2, 3);
     board->rollDice();
     const std::vector<std::string> expected = {
-        "UpdateTurnPlaying(2)", "showCell(38)",         "MoveToken(0,38,39)",
-        "sound: buy.wav",       "showNegBalance(false)", "UpdatePlayers",
-        "MoveToken(0,0,3)",
+        "UpdateTurnPlaying(2)",  "showCell(38)",  "MoveToken(0,38,39)", "sound: buy.wav",
+        "showNegBalance(false)", "UpdatePlayers", "MoveToken(0,0,3)",
     };
     EXPECT_EQ(rec.only({"UpdateTurnPlaying", "showCell", "MoveToken", "sound", "showNegBalance",
                         "UpdatePlayers"}),
@@ -175,10 +174,10 @@ TEST(TurnOrder, BankruptPlayersAreSkippedAndTheOrderWraps) {
     Board board(windows, std::make_unique<SeededRandom>(7));
     board.init();
     for (const char* name : {"A", "B", "C", "D"}) board.addPlayer(name, false, 0);
-    board.endTurn();                          // A to B
+    board.endTurn();                            // A to B
     board.getCurrPlayer().declareBankruptcy();  // B gives up: on to C
     EXPECT_EQ(board.getCurrPlayerIndex(), 2);
-    board.endTurn();                          // C to D
+    board.endTurn();                            // C to D
     board.getCurrPlayer().declareBankruptcy();  // the last slot: wraps to A
     EXPECT_EQ(board.getCurrPlayerIndex(), 0);
     board.endTurn();  // from A, past B, to C

@@ -49,13 +49,27 @@ void JFLCard::landOnCurrentCell(player& p) {
 void JFLCard::doAction(player& p) {
     const Integer pos = p.getPosition();
     switch (type_) {
-        case kGoToJailCard: p.goToJail(); break;
-        case kJailFreeCard: p.setHasGoJFC(true); break;
-        case kPassGo: p.move(static_cast<Integer>(40 - pos), false); break;
-        case 3: case 4: case 5: case 6: case 7:
+        case kGoToJailCard:
+            p.goToJail();
+            break;
+        case kJailFreeCard:
+            p.setHasGoJFC(true);
+            break;
+        case kPassGo:
+            p.move(static_cast<Integer>(40 - pos), false);
+            break;
+        case 3:
+        case 4:
+        case 5:
+        case 6:
+        case 7:
             p.credit(kSums[static_cast<std::size_t>(type_ - 3)]);
             break;
-        case 8: case 9: case 10: case 11: case 12:
+        case 8:
+        case 9:
+        case 10:
+        case 11:
+        case 12:
             p.debit(kSums[static_cast<std::size_t>(type_ - 8)]);
             break;
         case kGreen:
@@ -71,15 +85,25 @@ void JFLCard::doAction(player& p) {
             }
             landOnCurrentCell(p);
             break;
-        case kForward7: p.move(7, false); landOnCurrentCell(p); break;
-        case kForward11: p.move(11, false); landOnCurrentCell(p); break;
-        case kForward5: p.move(5, false); landOnCurrentCell(p); break;
+        case kForward7:
+            p.move(7, false);
+            landOnCurrentCell(p);
+            break;
+        case kForward11:
+            p.move(11, false);
+            landOnCurrentCell(p);
+            break;
+        case kForward5:
+            p.move(5, false);
+            landOnCurrentCell(p);
+            break;
         case kBack3:
             // Round the ring the long way, without Go money.
             p.move(37, true);
             landOnCurrentCell(p);
             break;
-        default: break;
+        default:
+            break;
     }
 }
 

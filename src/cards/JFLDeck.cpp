@@ -7,14 +7,17 @@
 namespace gw {
 namespace {
 
-Integer nextSlot(Integer slot) { return slot == kDeckSize - 1 ? Integer{0} : ++slot; }
+Integer nextSlot(Integer slot) {
+    return slot == kDeckSize - 1 ? Integer{0} : ++slot;
+}
 
 }  // namespace
 
 void JFLDeck::init() {
     cursor_ = 0;
     for (Integer i = 0; i < kDeckSize; ++i) {
-        cards_[static_cast<std::size_t>(i)] = std::make_unique<JFLCard>(JFLCard::textOf(i), i, *this);
+        cards_[static_cast<std::size_t>(i)] =
+            std::make_unique<JFLCard>(JFLCard::textOf(i), i, *this);
     }
     shuffle();
     setInDeck(true);

@@ -12,9 +12,13 @@ PropertyCell* BoardCell::asProperty() {
     return isProperty() ? static_cast<PropertyCell*>(this) : nullptr;
 }
 
-Street* BoardCell::asStreet() { return isStreet() ? static_cast<Street*>(this) : nullptr; }
+Street* BoardCell::asStreet() {
+    return isStreet() ? static_cast<Street*>(this) : nullptr;
+}
 
-TaxCell* BoardCell::asTax() { return isTax() ? static_cast<TaxCell*>(this) : nullptr; }
+TaxCell* BoardCell::asTax() {
+    return isTax() ? static_cast<TaxCell*>(this) : nullptr;
+}
 
 void goToJail::doAction(player& p) {
     getCell().getBoard().windows().sound.play(MediaPlayer::Main1, "newpolice.wav");

@@ -38,9 +38,8 @@ void PropertyCell::showInfo(player& p, Integer& opt) {
             }
         }
     }
-    getCell().getBoard().windows().cellInfo.showInfoCard(Cell_getId(), groupNumber(),
-                                                         values.span(), opt, p,
-                                                         Cell_getName(), ownerName);
+    getCell().getBoard().windows().cellInfo.showInfoCard(Cell_getId(), groupNumber(), values.span(),
+                                                         opt, p, Cell_getName(), ownerName);
 }
 
 CardValues Metro::cardValues() const {

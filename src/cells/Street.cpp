@@ -9,11 +9,16 @@ Integer Street::getRent() const {
 Integer Street::getRentWithHotels(Integer hotels) const {
     const double price = getProp().getPrice();
     switch (hotels) {
-        case 1: return rounded(price * 0.5);
-        case 2: return rounded(price * 1.2);
-        case 3: return rounded(price * 2);
-        case 4: return rounded(price * 2.5);
-        default: return 0;
+        case 1:
+            return rounded(price * 0.5);
+        case 2:
+            return rounded(price * 1.2);
+        case 3:
+            return rounded(price * 2);
+        case 4:
+            return rounded(price * 2.5);
+        default:
+            return 0;
     }
 }
 

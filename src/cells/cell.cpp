@@ -5,7 +5,9 @@
 
 namespace gw {
 
-bool cell::IsOn(Integer) const { return false; }
+bool cell::IsOn(Integer) const {
+    return false;
+}
 
 void cell::updateIsOn() {
     const Integer n = board_.getNumPlayer();

@@ -65,13 +65,20 @@ std::unique_ptr<BoardCell> makeCell(const RingEntry& entry, std::unique_ptr<cell
     switch (entry.kind) {
         case CellKind::Go:
         case CellKind::Jail:
-        case CellKind::OlympicPark: return std::make_unique<QuietCell>(entry.kind, std::move(plain));
-        case CellKind::GoToJail: return std::make_unique<goToJail>(std::move(plain));
-        case CellKind::IncomeTax: return std::make_unique<IncomeTax>(std::move(plain));
-        case CellKind::LuxuryTax: return std::make_unique<LuxuryTax>(std::move(plain));
-        case CellKind::JFL: return std::make_unique<JFL>(std::move(plain));
-        case CellKind::Metro: return std::make_unique<Metro>(std::move(plain), entry.price);
-        case CellKind::Utility: return std::make_unique<Utility>(std::move(plain), entry.price);
+        case CellKind::OlympicPark:
+            return std::make_unique<QuietCell>(entry.kind, std::move(plain));
+        case CellKind::GoToJail:
+            return std::make_unique<goToJail>(std::move(plain));
+        case CellKind::IncomeTax:
+            return std::make_unique<IncomeTax>(std::move(plain));
+        case CellKind::LuxuryTax:
+            return std::make_unique<LuxuryTax>(std::move(plain));
+        case CellKind::JFL:
+            return std::make_unique<JFL>(std::move(plain));
+        case CellKind::Metro:
+            return std::make_unique<Metro>(std::move(plain), entry.price);
+        case CellKind::Utility:
+            return std::make_unique<Utility>(std::move(plain), entry.price);
         case CellKind::Street:
             return std::make_unique<Street>(std::move(plain), entry.price, entry.distId);
     }

@@ -9,6 +9,8 @@ Integer Dice::faceOf(double r) {
     return static_cast<Integer>(v % 6 + 1);
 }
 
-void Dice::roll() { value_ = faceOf(random_.draw()); }
+void Dice::roll() {
+    value_ = faceOf(random_.draw());
+}
 
 }  // namespace gw

@@ -21,8 +21,12 @@ constexpr Integer saturate(long long value) {
     return static_cast<Integer>(value);
 }
 
-constexpr Integer addSat(Integer a, Integer b) { return saturate(static_cast<long long>(a) + b); }
-constexpr Integer subSat(Integer a, Integer b) { return saturate(static_cast<long long>(a) - b); }
+constexpr Integer addSat(Integer a, Integer b) {
+    return saturate(static_cast<long long>(a) + b);
+}
+constexpr Integer subSat(Integer a, Integer b) {
+    return saturate(static_cast<long long>(a) - b);
+}
 
 // Rounds to the nearest whole number, ties to the even one, then saturates.
 inline Integer rounded(double value) {

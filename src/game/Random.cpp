@@ -13,7 +13,9 @@ std::uint64_t splitmix(std::uint64_t& x) {
     return z ^ (z >> 31);
 }
 
-std::uint64_t rotl(std::uint64_t x, int k) { return (x << k) | (x >> (64 - k)); }
+std::uint64_t rotl(std::uint64_t x, int k) {
+    return (x << k) | (x >> (64 - k));
+}
 
 float secondsSinceMidnight() {
     using namespace std::chrono;
@@ -52,8 +54,9 @@ double Xoshiro::nextUnit() {
 }
 
 ClockRandom::ClockRandom()
-    : gen_(static_cast<std::uint64_t>(
-          std::chrono::steady_clock::now().time_since_epoch().count())) {}
+    : gen_(
+          static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count())) {
+}
 
 double ClockRandom::draw() {
     const float clock = secondsSinceMidnight();
@@ -86,6 +89,8 @@ double ScriptedRandom::digit(int digit) {
     return (v - 1 + 0.5) / 10000.0;
 }
 
-double ScriptedRandom::slot(int slot, int size) { return (slot + 0.5) / size; }
+double ScriptedRandom::slot(int slot, int size) {
+    return (slot + 0.5) / size;
+}
 
 }  // namespace gw

@@ -61,9 +61,9 @@ public:
     std::size_t remaining() const { return values_.size() - next_; }
 
     // Values that give a wanted outcome from the game's formulas.
-    static double face(int face);           // a die showing `face`
-    static double digit(int digit);         // (whole part of r * 10000 + 1) mod 10 == digit
-    static double slot(int slot, int size); // whole part of r * size == slot
+    static double face(int face);            // a die showing `face`
+    static double digit(int digit);          // (whole part of r * 10000 + 1) mod 10 == digit
+    static double slot(int slot, int size);  // whole part of r * size == slot
 
 private:
     std::vector<double> values_;

@@ -18,10 +18,17 @@ constexpr int kHotelsForAnotherPass = 3;
 
 void player::autoPlay(Integer opt) {
     switch (opt) {
-        case 0: autoLeaveJailAndRoll(); break;
-        case 1: autoReleaseAndAct(); break;
-        case 2: autoSettleTradeRaiseBuild(); break;
-        default: break;
+        case 0:
+            autoLeaveJailAndRoll();
+            break;
+        case 1:
+            autoReleaseAndAct();
+            break;
+        case 2:
+            autoSettleTradeRaiseBuild();
+            break;
+        default:
+            break;
     }
 }
 

@@ -21,7 +21,8 @@ void player::autoTrade() {
         for (int column = 0; column < 3; ++column) {
             // The third column of a two-street district reads false until ownDist has run.
             if (!row[static_cast<std::size_t>(column)]) {
-                wanted[static_cast<std::size_t>(r)] = static_cast<Integer>((r + 1) * 10 + column + 1);
+                wanted[static_cast<std::size_t>(r)] =
+                    static_cast<Integer>((r + 1) * 10 + column + 1);
             }
         }
     }

@@ -7,14 +7,20 @@
 
 namespace gw {
 
-player::player(Integer iId, std::string sName, Board& bBoard1, bool is_Computer,
-               Integer token_Name)
-    : name_(std::move(sName)), id_(iId), token_(token_Name), isComputer_(is_Computer),
+player::player(Integer iId, std::string sName, Board& bBoard1, bool is_Computer, Integer token_Name)
+    : name_(std::move(sName)),
+      id_(iId),
+      token_(token_Name),
+      isComputer_(is_Computer),
       board_(bBoard1) {}
 
-Windows& player::windows() const { return board_.windows(); }
+Windows& player::windows() const {
+    return board_.windows();
+}
 
-BoardCell* player::cellUnder() const { return board_.getCell(position_); }
+BoardCell* player::cellUnder() const {
+    return board_.getCell(position_);
+}
 
 void player::playSound(const char* file) const {
     windows().sound.play(MediaPlayer::Main1, file);

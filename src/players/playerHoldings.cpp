@@ -9,8 +9,12 @@ namespace gw {
 namespace {
 
 // The entry of a street in the owner's table: district row and street column.
-int rowOf(const Street& s) { return s.getDistId() / 10 - 1; }
-int columnOf(const Street& s) { return s.getDistId() % 10 - 1; }
+int rowOf(const Street& s) {
+    return s.getDistId() / 10 - 1;
+}
+int columnOf(const Street& s) {
+    return s.getDistId() % 10 - 1;
+}
 
 }  // namespace
 
@@ -45,7 +49,9 @@ void player::newlyOwn(BoardCell& pProp) {
     setStreetEntry(pProp, true);
 }
 
-void player::noMoreOwn(BoardCell& pProp) { setStreetEntry(pProp, false); }
+void player::noMoreOwn(BoardCell& pProp) {
+    setStreetEntry(pProp, false);
+}
 
 bool player::ownDist(Integer iDist) {
     ownedStreets_[0][2] = true;

@@ -67,7 +67,8 @@ void CellInfoWindow::showInfoCard(Integer iId, Integer iGroup, std::span<const I
             trade_.show();
             ok_[0].show();
             break;
-        default: break;
+        default:
+            break;
     }
 
     if (iGroup >= 1 && iGroup <= 8) {
@@ -139,16 +140,22 @@ void CellInfoWindow::buy_Click() {
     windows_.main.showInfo(cardPlayer_->getName() + " has bought " + cardName_);
 }
 
-void CellInfoWindow::forget_Click() { finishCard(); }
+void CellInfoWindow::forget_Click() {
+    finishCard();
+}
 
 void CellInfoWindow::payRent_Click() {
     cardPlayer_->payRent();
     finishCard();
 }
 
-void CellInfoWindow::Ok_Click(int) { hideAndEnableMain(); }
+void CellInfoWindow::Ok_Click(int) {
+    hideAndEnableMain();
+}
 
-void CellInfoWindow::close() { hideAndEnableMain(); }
+void CellInfoWindow::close() {
+    hideAndEnableMain();
+}
 
 void CellInfoWindow::buyHotel_Click() {
     cardPlayer_->buildHotel(cardId_);

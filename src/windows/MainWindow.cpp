@@ -15,7 +15,9 @@ constexpr Integer kStepTicks = 2;   // a walking token: 160 ms a cell
 constexpr Integer kFrameTicks = 1;  // a falling die: 80 ms a frame
 constexpr Integer kPoliceCell = 30;
 
-int tokenNumber(const player& p) { return std::atoi(p.getTokenName().c_str()); }
+int tokenNumber(const player& p) {
+    return std::atoi(p.getTokenName().c_str());
+}
 
 }  // namespace
 
@@ -24,9 +26,13 @@ MainWindow::MainWindow(Sound& sound, Delay& delay) : sound_(sound), delay_(delay
     ownedBy_.fill(kNoPicture);
 }
 
-void MainWindow::init(Board& bBoard1) { board_ = &bBoard1; }
+void MainWindow::init(Board& bBoard1) {
+    board_ = &bBoard1;
+}
 
-player& MainWindow::current() const { return board_->getCurrPlayer(); }
+player& MainWindow::current() const {
+    return board_->getCurrPlayer();
+}
 
 void MainWindow::startGame() {
     board_->shufflePlayers();
@@ -57,10 +63,20 @@ void MainWindow::UpdateTurnPlaying(Integer opt) {
     endTurn_.show();
     declareBank_.hide();
     switch (opt) {
-        case 0: rollDice_.enable(); endTurn_.enable(false); break;
-        case 1: rollDice_.enable(false); endTurn_.enable(); break;
-        case 2: rollDice_.enable(false); endTurn_.enable(false); break;
-        default: break;
+        case 0:
+            rollDice_.enable();
+            endTurn_.enable(false);
+            break;
+        case 1:
+            rollDice_.enable(false);
+            endTurn_.enable();
+            break;
+        case 2:
+            rollDice_.enable(false);
+            endTurn_.enable(false);
+            break;
+        default:
+            break;
     }
     changed();
 }

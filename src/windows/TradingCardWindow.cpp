@@ -56,7 +56,9 @@ void TradingCardWindow::doneDeal_Click() {
     hide();
 }
 
-void TradingCardWindow::forgetIt_Click() { hide(); }
+void TradingCardWindow::forgetIt_Click() {
+    hide();
+}
 
 void TradingCardWindow::wantIt_Click() {
     const std::optional<Integer> sum = readAmount();
