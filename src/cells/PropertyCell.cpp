@@ -42,14 +42,8 @@ void PropertyCell::showInfo(player& p, Integer& opt) {
                                                          opt, p, Cell_getName(), ownerName);
 }
 
-CardValues Metro::cardValues() const {
-    const Property& prop = getProp();
-    return {{prop.getPrice(), prop.getRent(), prop.getMortgage()}, 3};
-}
-
-CardValues Utility::cardValues() const {
-    const Property& prop = getProp();
-    return {{prop.getPrice(), prop.getRent(), prop.getMortgage()}, 3};
+CardValues PropertyCell::cardValues() const {
+    return {{prop_.getPrice(), prop_.getRent(), prop_.getMortgage()}, 3};
 }
 
 }  // namespace gw

@@ -40,7 +40,8 @@ public:
 protected:
     PropertyCell(CellKind kind, std::unique_ptr<cell> plain, Integer price)
         : BoardCell(kind, std::move(plain)), prop_(getCell(), price) {}
-    virtual CardValues cardValues() const = 0;
+    // Price, bare rent and mortgage value; a street adds its hotel figures.
+    virtual CardValues cardValues() const;
 
 private:
     Property prop_;
@@ -51,9 +52,6 @@ public:
     Metro(std::unique_ptr<cell> plain, Integer price)
         : PropertyCell(CellKind::Metro, std::move(plain), price) {}
     Integer groupNumber() const override { return 9; }
-
-protected:
-    CardValues cardValues() const override;
 };
 
 class Utility final : public PropertyCell {
@@ -61,9 +59,6 @@ public:
     Utility(std::unique_ptr<cell> plain, Integer price)
         : PropertyCell(CellKind::Utility, std::move(plain), price) {}
     Integer groupNumber() const override { return 10; }
-
-protected:
-    CardValues cardValues() const override;
 };
 
 }  // namespace gw

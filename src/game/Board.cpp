@@ -1,6 +1,7 @@
 // The order of play and the turn cycle.
 #include "game/Board.h"
 
+#include <cassert>
 #include <string>
 
 namespace gw {
@@ -25,11 +26,11 @@ void Board::addPlayer(std::unique_ptr<player> playerInfo) {
 }
 
 player& Board::addPlayer(std::string name, bool isComputer, Integer token) {
-    const Integer id = numPlayer_ < kPlayerSlots ? numPlayer_ : Integer{kPlayerSlots - 1};
-    auto made = std::make_unique<player>(id, std::move(name), *this, isComputer, token);
-    player& result = *made;
-    addPlayer(std::move(made));
-    return result;
+    // Set-up adds six players at most; a full table keeps the players it has.
+    assert(numPlayer_ < kPlayerSlots);
+    if (numPlayer_ >= kPlayerSlots) return *players_[kPlayerSlots - 1];
+    addPlayer(std::make_unique<player>(numPlayer_, std::move(name), *this, isComputer, token));
+    return *players_[static_cast<std::size_t>(numPlayer_ - 1)];
 }
 
 player* Board::getPlayer(Integer id) const {

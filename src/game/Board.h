@@ -40,7 +40,7 @@ public:
     void deleteAllPlayer();
     // Stores the player in the next slot; a full table takes no more.
     void addPlayer(std::unique_ptr<player> playerInfo);
-    // Makes a player with the next free id and stores it.
+    // Makes a player with the next free id and stores it; the table must have room.
     player& addPlayer(std::string name, bool isComputer, Integer token);
     // Draws the order of play and renumbers the players by it.
     void shufflePlayers();
