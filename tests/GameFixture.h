@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <memory>
 #include <numeric>
+#include <sstream>
+#include <utility>
 #include <vector>
 
 #include "Recorder.h"
@@ -15,6 +17,8 @@
 #include "game/Board.h"
 
 namespace gw::test {
+
+using Lines = std::vector<std::string>;
 
 // The draws that make the deck's shuffle put card cardOrder[s] in slot s.
 inline std::vector<double> deckDraws(const std::vector<int>& cardOrder) {
@@ -30,6 +34,19 @@ inline std::vector<int> deckInOrder() {
     std::vector<int> order(kDeckSize);
     std::iota(order.begin(), order.end(), 0);
     return order;
+}
+
+// The controls on show, named in order by the words of names; a closed one carries a
+// trailing '*'.
+inline Lines shown(const std::string& names, std::initializer_list<const Control*> controls) {
+    std::istringstream words(names);
+    Lines on;
+    for (const Control* c : controls) {
+        std::string name;
+        words >> name;
+        if (c->visible) on.push_back(name + (c->enabled ? "" : "*"));
+    }
+    return on;
 }
 
 class GameFixture : public ::testing::Test {
@@ -56,6 +73,16 @@ protected:
         const Integer steps = static_cast<Integer>((cellId - p.getPosition() + 40) % 40);
         if (steps != 0) p.move(steps, true);
         rec.clear();
+    }
+    // A landing, as the turn runs it, logged from its start.
+    void land(player& p, Integer cellId) {
+        placeAt(p, cellId);
+        board->getCell(cellId)->doAction(p);
+    }
+    // A click on a property on the board.
+    void click(player& p, Integer cellId) {
+        Integer opt = kOptInfo;
+        board->getCell(cellId)->asProperty()->showInfo(p, opt);
     }
     // Brings a balance to the value through the player's own money operations.
     void setBalance(player& p, Integer value) {
@@ -86,6 +113,13 @@ protected:
     Windows windows{rec, rec, rec};
     ScriptedRandom* random = nullptr;
     std::unique_ptr<Board> board;
+};
+
+// Two humans, Ann (id 0, to play) and Bob (id 1), each with 1500.
+class TwoHumans : public GameFixture {
+protected:
+    player* ann = &addHuman("Ann", 1);
+    player* bob = &addHuman("Bob", 2);
 };
 
 }  // namespace gw::test

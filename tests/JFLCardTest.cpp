@@ -7,13 +7,9 @@
 namespace gw::test {
 namespace {
 
-const std::vector<Integer> kCardCells = {2, 7, 17, 22, 33, 36};
-
-class Cards : public GameFixture {
+class Cards : public TwoHumans {
 protected:
     Cards() {
-        ann = &addHuman("Ann", 1);
-        bob = &addHuman("Bob", 2);
         // The tax card has no line of its own in the log: give it one.
         windows.taxCard.setOnChanged([this] {
             rec.log.push_back(windows.taxCard.isVisible() ? "taxCard up" : "taxCard down");
@@ -27,17 +23,14 @@ protected:
         for (double r : deckDraws(top)) random->push(r);
         board->getJFLDeck().init();
     }
-    // Ann, with 1500, lands on a card cell with this card on top.
+    // Ann, with 1500 and no card up, lands on a card cell with this card on top.
     void draw(int type, Integer cellId) {
+        card().close();
         onTop({type});
-        placeAt(*ann, cellId);
         setBalance(*ann, 1500);
-        board->getCell(cellId)->doAction(*ann);
+        land(*ann, cellId);
     }
-    std::vector<std::string> moves() const { return rec.only({"MoveToken", "sound"}); }
-
-    player* ann;
-    player* bob;
+    Lines moves() const { return rec.only({"MoveToken", "sound"}); }
 };
 
 TEST_F(Cards, MoneyCardsPayOrTakeTheirSumWithTheMatchingSound) {
@@ -45,117 +38,85 @@ TEST_F(Cards, MoneyCardsPayOrTakeTheirSumWithTheMatchingSound) {
         int type;
         const char* text;
         Integer balance;
-        const char* sound;
     };
     const Case cases[] = {
-        {3, "Collect $250 from bank", 1750, "buy.wav"},
-        {4, "Collect $200 from bank", 1700, "buy.wav"},
-        {5, "Collect $150 from bank", 1650, "buy.wav"},
-        {6, "Collect $100 from bank", 1600, "buy.wav"},
-        {7, "Collect $50 from bank", 1550, "buy.wav"},
-        {8, "Pay $250 to bank", 1250, "pay.wav"},
-        {9, "Pay $200 to bank", 1300, "pay.wav"},
-        {10, "Pay $150 to bank", 1350, "pay.wav"},
-        {11, "Pay $100 to bank", 1400, "pay.wav"},
-        {12, "Pay $50 to bank", 1450, "pay.wav"},
+        {3, "Collect $250 from bank", 1750}, {4, "Collect $200 from bank", 1700},
+        {5, "Collect $150 from bank", 1650}, {6, "Collect $100 from bank", 1600},
+        {7, "Collect $50 from bank", 1550},  {8, "Pay $250 to bank", 1250},
+        {9, "Pay $200 to bank", 1300},       {10, "Pay $150 to bank", 1350},
+        {11, "Pay $100 to bank", 1400},      {12, "Pay $50 to bank", 1450},
     };
     for (const Case& c : cases) {
         draw(c.type, 22);
-        const std::vector<std::string> expected = {
-            std::string("showInfo: ") + c.text,
-            "wait 20",
-            "setEnabled(true)",
-            std::string("sound: ") + c.sound,
-            "showNegBalance(false)",
-            "UpdatePlayers",
-            "showCell(22)",
-        };
+        const Lines expected = {std::string("showInfo: ") + c.text,
+                                "wait 20",
+                                "setEnabled(true)",
+                                c.balance > 1500 ? "sound: buy.wav" : "sound: pay.wav",
+                                "showNegBalance(false)",
+                                "UpdatePlayers",
+                                "showCell(22)"};
         EXPECT_EQ(rec.log, expected) << c.text;
         EXPECT_EQ(ann->getBalance(), c.balance) << c.text;
         EXPECT_EQ(ann->getPosition(), 22) << c.text;
     }
 }
 
-TEST_F(Cards, PayingMoreThanTheHandLeavesADebtThatHoldsUpEndTurn) {
+TEST_F(Cards, PayingMoreThanTheHandLeavesADebt) {
     onTop({8});
-    placeAt(*ann, 7);
     setBalance(*ann, 100);
-    board->getCell(7)->doAction(*ann);
+    land(*ann, 7);
     EXPECT_EQ(ann->getBalance(), -150);
     EXPECT_TRUE(rec.has("showNegBalance(true)"));
-    rec.clear();
-    board->endTurn();
-    EXPECT_EQ(rec.log.front(), "showInfo: You must make money first");
-    EXPECT_EQ(&board->getCurrPlayer(), ann);
-    setBalance(*ann, 0);
-    board->endTurn();
-    EXPECT_EQ(&board->getCurrPlayer(), bob);
 }
 
-TEST_F(Cards, PassGoFromEveryCardCellEndsOnGoWithTwoHundred) {
-    for (Integer cellId : kCardCells) {
+TEST_F(Cards, AdvanceCardsFromEveryCardCellPayGoMoneyOnlyWhenPassingGo) {
+    // Green (37) lies ahead of every card cell, St-Laurent (16) ahead of 2 and 7 only.
+    const std::pair<Integer, Integer> stLaurent[] = {{2, 1500},  {7, 1500},  {17, 1700},
+                                                     {22, 1700}, {33, 1700}, {36, 1700}};
+    for (const auto& [cellId, balance] : stLaurent) {
+        SCOPED_TRACE(cellId);
         draw(kPassGo, cellId);
-        EXPECT_EQ(ann->getPosition(), 0) << cellId;
-        EXPECT_EQ(ann->getBalance(), 1700) << cellId;
-        EXPECT_EQ(rec.count("sound: buy.wav"), 1) << cellId;
-        EXPECT_FALSE(rec.has("showCell(0)")) << cellId;  // Go is reached, not landed on
+        EXPECT_EQ(ann->getPosition(), 0);
+        EXPECT_EQ(ann->getBalance(), 1700);
+        EXPECT_EQ(rec.count("sound: buy.wav"), 1);
+        EXPECT_FALSE(rec.has("showCell(0)"));  // Go is reached, not landed on
         EXPECT_EQ(rec.log.back(), "showCell(" + std::to_string(cellId) + ")");
-    }
-}
-
-TEST_F(Cards, AdvanceToGreenNeverPassesGoAndOpensItsCard) {
-    for (Integer cellId : kCardCells) {
         draw(kGreen, cellId);
-        EXPECT_EQ(ann->getPosition(), 37) << cellId;
-        EXPECT_EQ(ann->getBalance(), 1500) << cellId;
-        EXPECT_TRUE(card().isVisible()) << cellId;
-        EXPECT_EQ(card().cardId(), 37) << cellId;
-        EXPECT_EQ(card().cardOpt(), kOptBuy) << cellId;
-    }
-}
-
-TEST_F(Cards, AdvanceToStLaurentPaysGoMoneyOnlyFromBeyondIt) {
-    const std::pair<Integer, Integer> cases[] = {{2, 1500},  {7, 1500},  {17, 1700},
-                                                 {22, 1700}, {33, 1700}, {36, 1700}};
-    for (const auto& [cellId, balance] : cases) {
+        EXPECT_EQ(ann->getPosition(), 37);
+        EXPECT_EQ(ann->getBalance(), 1500);
+        EXPECT_TRUE(card().isVisible());
+        EXPECT_EQ(card().cardId(), 37);
+        EXPECT_EQ(card().cardOpt(), kOptBuy);
         draw(kStLaurent, cellId);
-        EXPECT_EQ(ann->getPosition(), 16) << cellId;
-        EXPECT_EQ(ann->getBalance(), balance) << cellId;
-        EXPECT_EQ(card().cardId(), 16) << cellId;
-        EXPECT_EQ(card().cardOpt(), kOptBuy) << cellId;
-        if (cellId == 36) {  // via Go, then on to 16
-            EXPECT_EQ(moves(), (std::vector<std::string>{"MoveToken(0,36,39)", "sound: buy.wav",
-                                                         "MoveToken(0,0,0)", "MoveToken(0,0,16)"}));
-        }
+        EXPECT_EQ(ann->getPosition(), 16);
+        EXPECT_EQ(ann->getBalance(), balance);
+        EXPECT_EQ(card().cardId(), 16);
+        EXPECT_EQ(card().cardOpt(), kOptBuy);
     }
+    // The last, from 36: via Go, then on to 16.
+    EXPECT_EQ(moves(), (Lines{"MoveToken(0,36,39)", "sound: buy.wav", "MoveToken(0,0,0)",
+                              "MoveToken(0,0,16)"}));
 }
 
-TEST_F(Cards, ForwardSevenFrom33LandsOnGoAndFrom36EndsOnThree) {
-    draw(kForward7, 33);
+TEST_F(Cards, ForwardCardsPayGoMoneyOnTheWayAndLandWhereTheyEnd) {
+    draw(kForward7, 33);  // onto Go itself
     EXPECT_EQ(ann->getPosition(), 0);
     EXPECT_EQ(ann->getBalance(), 1700);
     EXPECT_EQ(rec.count("sound: buy.wav"), 1);
-    EXPECT_EQ(rec.only({"showCell"}),
-              (std::vector<std::string>{"showCell(33)", "showCell(0)", "showCell(33)"}));
-
+    EXPECT_EQ(rec.only({"showCell"}), (Lines{"showCell(33)", "showCell(0)", "showCell(33)"}));
     draw(kForward7, 36);
     EXPECT_EQ(ann->getPosition(), 3);
     EXPECT_EQ(ann->getBalance(), 1700);
-    EXPECT_EQ(card().cardId(), 3);
-    EXPECT_EQ(card().cardOpt(), kOptBuy);
-}
 
-TEST_F(Cards, ForwardElevenFrom33PaysGoMoneyBeforeTheIncomeTaxCardOpens) {
-    draw(kForward11, 33);
+    draw(kForward11, 33);  // the Go money comes before the income tax card opens
     EXPECT_EQ(ann->getPosition(), 4);
     EXPECT_EQ(ann->getBalance(), 1700);  // the tax waits for the player's click
-    const std::vector<std::string> expected = {
+    const Lines expected = {
         "showCell(33)",  // redrawn as the token leaves it
         "MoveToken(0,33,39)", "sound: buy.wav", "MoveToken(0,0,4)",
         "taxCard up",         "showCell(4)",    "showCell(33)",
     };
     EXPECT_EQ(rec.only({"MoveToken", "sound", "taxCard", "showCell"}), expected);
-    EXPECT_EQ(windows.taxCard.taxId(), 4);
 }
 
 TEST_F(Cards, BackThreeGoesRoundWithoutGoMoneyAndLandsWhereItEnds) {
@@ -167,7 +128,7 @@ TEST_F(Cards, BackThreeGoesRoundWithoutGoMoneyAndLandsWhereItEnds) {
     draw(kBack3, 7);
     EXPECT_EQ(ann->getPosition(), 4);
     EXPECT_EQ(ann->getBalance(), 1500);
-    EXPECT_EQ(moves(), (std::vector<std::string>{"MoveToken(0,7,39)", "MoveToken(0,0,4)"}));
+    EXPECT_EQ(moves(), (Lines{"MoveToken(0,7,39)", "MoveToken(0,0,4)"}));
     EXPECT_TRUE(rec.has("taxCard up"));
 
     draw(kBack3, 33);  // onto Police
@@ -177,29 +138,20 @@ TEST_F(Cards, BackThreeGoesRoundWithoutGoMoneyAndLandsWhereItEnds) {
     EXPECT_EQ(ann->getBalance(), 1500);
 }
 
-TEST_F(Cards, GoToJailWalksToJailUnpaidAndVoidsTheThrowOfDoubles) {
+// That it voids a throw of doubles, as the police do, is checked with the turn.
+TEST_F(Cards, GoToJailWalksToJailUnpaid) {
     draw(kGoToJailCard, 36);
     EXPECT_TRUE(ann->IsInJail());
     EXPECT_EQ(ann->getPosition(), 10);
     EXPECT_EQ(ann->getBalance(), 1500);  // past Go on the way, unpaid
     EXPECT_TRUE(rec.has("showInfo: Go to jail!"));
     EXPECT_EQ(rec.log.back(), "showCell(36)");
-
-    ann->getOutOfJail();
-    onTop({kGoToJailCard});
-    placeAt(*ann, 0);
-    nextThrow(1, 1);
-    board->playTurn();  // doubles onto cell 2
-    EXPECT_TRUE(ann->IsInJail());
-    board->endTurn();
-    EXPECT_EQ(&board->getCurrPlayer(), bob);
 }
 
 TEST_F(Cards, NestedDrawFinishesTheOuterCardAfterTheInnerOne) {
     onTop({kForward5, 7});
-    placeAt(*ann, 2);
-    board->getCell(2)->doAction(*ann);
-    const std::vector<std::string> expected = {
+    land(*ann, 2);
+    const Lines expected = {
         "showInfo: Move forward 5 cells",
         "wait 20",
         "setEnabled(true)",
@@ -222,11 +174,20 @@ TEST_F(Cards, NestedDrawFinishesTheOuterCardAfterTheInnerOne) {
 
 TEST_F(Cards, DoNothingShowsTheCardForTheWaitAndChangesNothing) {
     draw(kDoNothing, 17);
-    EXPECT_EQ(rec.log, (std::vector<std::string>{"showInfo: Do Nothing", "wait 20",
-                                                 "setEnabled(true)", "showCell(17)"}));
+    EXPECT_EQ(rec.log,
+              (Lines{"showInfo: Do Nothing", "wait 20", "setEnabled(true)", "showCell(17)"}));
     EXPECT_EQ(ann->getBalance(), 1500);
     EXPECT_EQ(ann->getPosition(), 17);
     EXPECT_EQ(windows.jflCard.Label2(), "Do Nothing");
+    EXPECT_FALSE(windows.jflCard.isVisible());
+
+    rec.clear();  // shown on its own, the card stays up until Ok
+    windows.jflCard.showJFLCard("Do Nothing");
+    EXPECT_TRUE(windows.jflCard.isVisible());
+    EXPECT_EQ(rec.log, Lines{"showInfo: Do Nothing"});
+    rec.clear();
+    windows.jflCard.Ok_Click();
+    EXPECT_EQ(rec.log, Lines{"setEnabled(true)"});
     EXPECT_FALSE(windows.jflCard.isVisible());
 }
 
@@ -239,9 +200,6 @@ TEST_F(Cards, HumanMovedOntoAPropertyMustDealWithItsCardBeforeEndTurn) {
     EXPECT_EQ(&board->getCurrPlayer(), ann);
     EXPECT_TRUE(card().isVisible());  // the landing ran again
     EXPECT_EQ(card().cardOpt(), kOptBuy);
-    card().forget_Click();
-    board->endTurn();
-    EXPECT_EQ(&board->getCurrPlayer(), bob);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 namespace gw::test {
 namespace {
 
-TEST(Dice, FacesComeFromTheRemainderOfTenThousandValues) {
+TEST(Dice, FacesComeFromTheRemainderOfTenThousandValuesAndStayUntilTheNextRoll) {
     std::array<int, 7> count{};
     for (int k = 0; k < 10000; ++k)
         ++count[static_cast<std::size_t>(Dice::faceOf((k + 0.5) / 10000))];
@@ -21,9 +21,8 @@ TEST(Dice, FacesComeFromTheRemainderOfTenThousandValues) {
     EXPECT_EQ(Dice::faceOf(5.5 / 10000), 1);
     EXPECT_EQ(Dice::faceOf(0.0), 2);
     EXPECT_EQ(Dice::faceOf(9999.5 / 10000), 5);
-}
 
-TEST(Dice, ValueIsZeroBeforeTheFirstRollAndReadingDoesNotThrow) {
+    // The value is 0 before the first roll, and reading it does not roll the die again.
     ScriptedRandom random({ScriptedRandom::face(4)});
     Dice die(random);
     EXPECT_EQ(die.getValue(), 0);

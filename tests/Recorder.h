@@ -15,6 +15,8 @@
 namespace gw::test {
 
 class Recorder final : public MainWindowPort, public Sound, public Delay {
+    using P = MainWindowPort;
+
 public:
     std::vector<std::string> log;
     // Calls are passed on to this model when set.
@@ -40,73 +42,53 @@ public:
     }
 
     void showInfo(std::string_view msg) override {
-        add("showInfo: " + std::string(msg));
+        log.push_back("showInfo: " + std::string(msg));
         if (model) model->showInfo(msg);
     }
     void UpdateTurnPlaying(Integer opt) override {
-        add("UpdateTurnPlaying(" + std::to_string(opt) + ")");
-        if (model) model->UpdateTurnPlaying(opt);
+        pass("UpdateTurnPlaying", &P::UpdateTurnPlaying, opt);
     }
-    void Showdice(Integer a, Integer b) override {
-        add("Showdice(" + std::to_string(a) + "," + std::to_string(b) + ")");
-        if (model) model->Showdice(a, b);
-    }
+    void Showdice(Integer a, Integer b) override { pass("Showdice", &P::Showdice, a, b); }
     void MoveToken(Integer id, Integer from, Integer to) override {
-        add("MoveToken(" + std::to_string(id) + "," + std::to_string(from) + "," +
-            std::to_string(to) + ")");
-        if (model) model->MoveToken(id, from, to);
+        pass("MoveToken", &P::MoveToken, id, from, to);
     }
-    void UpdatePlayers() override {
-        add("UpdatePlayers");
-        if (model) model->UpdatePlayers();
+    void UpdatePlayers() override { pass("UpdatePlayers", &P::UpdatePlayers); }
+    void showCell(const OnCell& onCell, Integer c) override {
+        log.push_back("showCell(" + std::to_string(c) + ")");
+        if (model) model->showCell(onCell, c);
     }
-    void showCell(const OnCell& onCell, Integer cellId) override {
-        add("showCell(" + std::to_string(cellId) + ")");
-        if (model) model->showCell(onCell, cellId);
-    }
-    void showOwner(Integer c) override {
-        add("showOwner(" + std::to_string(c) + ")");
-        if (model) model->showOwner(c);
-    }
-    void showHotel(Integer c) override {
-        add("showHotel(" + std::to_string(c) + ")");
-        if (model) model->showHotel(c);
-    }
-    void showMort(Integer c) override {
-        add("showMort(" + std::to_string(c) + ")");
-        if (model) model->showMort(c);
-    }
-    void showInJail() override {
-        add("showInJail");
-        if (model) model->showInJail();
-    }
-    void showNegBalance(bool neg) override {
-        add(std::string("showNegBalance(") + (neg ? "true" : "false") + ")");
-        if (model) model->showNegBalance(neg);
-    }
-    void showBankRupt() override {
-        add("showBankRupt");
-        if (model) model->showBankRupt();
-    }
-    void setEnabled(bool enabled) override {
-        add(std::string("setEnabled(") + (enabled ? "true" : "false") + ")");
-        if (model) model->setEnabled(enabled);
-    }
-    void showGameEnd() override {
-        add("showGameEnd");
-        if (model) model->showGameEnd();
-    }
+    void showOwner(Integer c) override { pass("showOwner", &P::showOwner, c); }
+    void showHotel(Integer c) override { pass("showHotel", &P::showHotel, c); }
+    void showMort(Integer c) override { pass("showMort", &P::showMort, c); }
+    void showInJail() override { pass("showInJail", &P::showInJail); }
+    void showNegBalance(bool neg) override { pass("showNegBalance", &P::showNegBalance, neg); }
+    void showBankRupt() override { pass("showBankRupt", &P::showBankRupt); }
+    void setEnabled(bool enabled) override { pass("setEnabled", &P::setEnabled, enabled); }
+    void showGameEnd() override { pass("showGameEnd", &P::showGameEnd); }
 
     void play(MediaPlayer player, std::string_view file) override {
-        add((player == MediaPlayer::Main2 ? "sound2: " : "sound: ") + std::string(file));
+        log.push_back((player == MediaPlayer::Main2 ? "sound2: " : "sound: ") + std::string(file));
     }
     void setVolume(MediaPlayer player, int volume) override {
-        add("volume " + std::to_string(static_cast<int>(player)) + " " + std::to_string(volume));
+        log.push_back("volume " + std::to_string(static_cast<int>(player)) + " " +
+                      std::to_string(volume));
     }
-    void wait(Integer ticks) override { add("wait " + std::to_string(ticks)); }
+    void wait(Integer ticks) override { log.push_back("wait " + std::to_string(ticks)); }
 
 private:
-    void add(std::string line) { log.push_back(std::move(line)); }
+    static std::string text(Integer value) { return std::to_string(value); }
+    static std::string text(bool value) { return value ? "true" : "false"; }
+    // Logs the call as name(arg,arg) and passes it on.
+    template <class... Params, class... Args>
+    void pass(std::string line, void (P::*call)(Params...), Args... args) {
+        if constexpr (sizeof...(Args) > 0) {
+            char separator = '(';
+            ((line += separator + text(args), separator = ','), ...);
+            line += ')';
+        }
+        log.push_back(std::move(line));
+        if (model) (model->*call)(args...);
+    }
 };
 
 }  // namespace gw::test

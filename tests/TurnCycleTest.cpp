@@ -5,21 +5,13 @@
 namespace gw::test {
 namespace {
 
-class TurnCycle : public GameFixture {
-protected:
-    TurnCycle() {
-        ann = &addHuman("Ann", 3);
-        bob = &addHuman("Bob", 5);
-    }
-    player* ann;
-    player* bob;
-};
+class TurnCycle : public TwoHumans {};
 
 TEST_F(TurnCycle, ThrowPassingGoWalksInTwoStrokesWithTheGoMoneyBetween) {
     placeAt(*ann, 38);
     nextThrow(2, 3);
     board->rollDice();
-    const std::vector<std::string> expected = {
+    const Lines expected = {
         "UpdateTurnPlaying(2)",  "showCell(38)",  "MoveToken(0,38,39)", "sound: buy.wav",
         "showNegBalance(false)", "UpdatePlayers", "MoveToken(0,0,3)",
     };
@@ -28,27 +20,6 @@ TEST_F(TurnCycle, ThrowPassingGoWalksInTwoStrokesWithTheGoMoneyBetween) {
               expected);
     EXPECT_EQ(ann->getPosition(), 3);
     EXPECT_EQ(ann->getBalance(), 1700);
-}
-
-TEST_F(TurnCycle, LandingExactlyOnGoPaysOnceAndMovingWithPenaltyPaysNothing) {
-    placeAt(*ann, 38);
-    ann->move(2, false);
-    EXPECT_EQ(ann->getPosition(), 0);
-    EXPECT_EQ(ann->getBalance(), 1700);
-    EXPECT_EQ(rec.count("sound: buy.wav"), 1);
-    placeAt(*bob, 38);
-    bob->move(5, true);
-    EXPECT_EQ(bob->getPosition(), 3);
-    EXPECT_EQ(bob->getBalance(), 1500);
-}
-
-TEST_F(TurnCycle, HumanTurnRollsLandsAndOpensEndTurn) {
-    nextThrow(1, 2);
-    board->playTurn();
-    EXPECT_EQ(ann->getPosition(), 3);
-    EXPECT_EQ(rec.log.back(), "UpdateTurnPlaying(1)");
-    EXPECT_TRUE(card().isVisible());  // the purchase card of Saint-Jacques
-    EXPECT_EQ(card().cardOpt(), kOptBuy);
 }
 
 TEST_F(TurnCycle, DoublesLetTheSamePlayerGoAgain) {
@@ -72,7 +43,7 @@ TEST_F(TurnCycle, ThreeDoublesSendToJailWithoutGoMoneyAndEndTheTurn) {
     rec.clear();
     nextThrow(2, 2);
     board->rollDice();
-    const std::vector<std::string> expected = {
+    const Lines expected = {
         "showInfo: Ann, you have rolled doubles, go again!",
         "showInfo: Ann, you have rolled three doubles, go to jail!",
         "sound2: newpolice.wav",
@@ -87,19 +58,6 @@ TEST_F(TurnCycle, ThreeDoublesSendToJailWithoutGoMoneyAndEndTheTurn) {
 
     board->endTurn();
     EXPECT_EQ(&board->getCurrPlayer(), bob);
-    EXPECT_EQ(ann->getDoubleCount(), 0);
-}
-
-TEST_F(TurnCycle, DoubleThenPoliceVoidsTheRepeatThrow) {
-    placeAt(*ann, 24);
-    nextThrow(3, 3);
-    board->playTurn();  // 30: Police
-    EXPECT_TRUE(ann->IsInJail());
-    EXPECT_EQ(ann->getPosition(), 10);
-    EXPECT_TRUE(rec.has("sound: newpolice.wav"));
-    board->endTurn();
-    EXPECT_EQ(&board->getCurrPlayer(), bob);
-    EXPECT_TRUE(ann->getDidAction());
     EXPECT_EQ(ann->getDoubleCount(), 0);
 }
 
@@ -138,9 +96,13 @@ TEST_F(TurnCycle, DoublesInJailFreeMoveAndThrowAgain) {
     EXPECT_EQ(&board->getCurrPlayer(), ann);
 }
 
-TEST_F(TurnCycle, EndTurnRefusedOnAPropertyNotDealtWithThenOnDebt) {
+TEST_F(TurnCycle, AHumanTurnEndsOnlyWhenTheLandingIsDealtWithAndNothingIsOwed) {
     nextThrow(1, 2);
-    board->playTurn();  // Saint-Jacques, unowned: the card is up
+    board->playTurn();
+    EXPECT_EQ(ann->getPosition(), 3);
+    EXPECT_EQ(rec.log.back(), "UpdateTurnPlaying(1)");
+    EXPECT_TRUE(card().isVisible());  // the purchase card of Saint-Jacques
+    EXPECT_EQ(card().cardOpt(), kOptBuy);
     rec.clear();
     board->endTurn();
     EXPECT_EQ(rec.log.front(), "showInfo: You must do something before you end your turn");
@@ -155,64 +117,48 @@ TEST_F(TurnCycle, EndTurnRefusedOnAPropertyNotDealtWithThenOnDebt) {
     setBalance(*ann, 0);
     board->endTurn();  // a balance of exactly 0 passes
     EXPECT_EQ(&board->getCurrPlayer(), bob);
-}
 
-TEST_F(TurnCycle, QuietCellsNeedNoActionBeforeTheTurnEnds) {
-    for (Integer cellId : {0, 10, 20}) {
+    for (Integer cellId : {0, 10, 20}) {  // cells that ask for nothing
+        board->endTurn();                 // Bob on Go
+        ASSERT_EQ(&board->getCurrPlayer(), ann);
         placeAt(*ann, cellId);
-        setBalance(*ann, 0);
         board->endTurn();
         EXPECT_EQ(&board->getCurrPlayer(), bob) << cellId;
-        board->endTurn();  // Bob on Go
-        ASSERT_EQ(&board->getCurrPlayer(), ann);
     }
 }
 
-TEST(TurnOrder, BankruptPlayersAreSkippedAndTheOrderWraps) {
-    Recorder rec;
-    Windows windows(rec, rec, rec);
-    Board board(windows, std::make_unique<SeededRandom>(7));
-    board.init();
-    for (const char* name : {"A", "B", "C", "D"}) board.addPlayer(name, false, 0);
-    board.endTurn();                            // A to B
-    board.getCurrPlayer().declareBankruptcy();  // B gives up: on to C
-    EXPECT_EQ(board.getCurrPlayerIndex(), 2);
-    board.endTurn();                            // C to D
-    board.getCurrPlayer().declareBankruptcy();  // the last slot: wraps to A
-    EXPECT_EQ(board.getCurrPlayerIndex(), 0);
-    board.endTurn();  // from A, past B, to C
-    EXPECT_EQ(board.getCurrPlayerIndex(), 2);
+class TurnOrder : public GameFixture {};
+
+TEST_F(TurnOrder, BankruptPlayersAreSkippedAndTheOrderWraps) {
+    for (const char* name : {"A", "B", "C", "D"}) addHuman(name);
+    board->endTurn();                            // A to B
+    board->getCurrPlayer().declareBankruptcy();  // B gives up: on to C
+    EXPECT_EQ(board->getCurrPlayerIndex(), 2);
+    board->endTurn();                            // C to D
+    board->getCurrPlayer().declareBankruptcy();  // the last slot: wraps to A
+    EXPECT_EQ(board->getCurrPlayerIndex(), 0);
+    board->endTurn();  // from A, past B, to C
+    EXPECT_EQ(board->getCurrPlayerIndex(), 2);
 }
 
-TEST(TurnOrder, ShufflePlayersScattersIntoARingAndRenumbers) {
-    Recorder rec;
-    Windows windows(rec, rec, rec);
-    // Draws for four players: slots 2, 2 (taken: on to 3), 3 (taken: wraps to 0), 0 (on to 1).
-    auto random = std::make_unique<ScriptedRandom>(deckDraws(deckInOrder()));
-    ScriptedRandom& script = *random;
-    Board board(windows, std::move(random));
-    board.init();
-    for (const char* name : {"A", "B", "C", "D"}) board.addPlayer(name, false, 0);
-    for (int s : {2, 2, 3, 0}) script.push(ScriptedRandom::slot(s, 4));
-    board.shufflePlayers();
-    // order = {3, 4, 1, 2}: A goes to place 2, B to 3, C to 0, D to 1.
-    std::vector<std::string> names;
+TEST_F(TurnOrder, ShufflePlayersScattersIntoARingAndRenumbers) {
+    for (const char* name : {"A", "B", "C", "D"}) addHuman(name);
+    // Slots 2, 2 (taken: on to 3), 3 (taken: wraps to 0), 0 (on to 1).
+    for (int s : {2, 2, 3, 0}) random->push(ScriptedRandom::slot(s, 4));
+    board->shufflePlayers();
+    Lines names;
     for (Integer i = 0; i < 4; ++i) {
-        names.push_back(board.getPlayer(i)->getName());
-        EXPECT_EQ(board.getPlayer(i)->getId(), i);
+        names.push_back(board->getPlayer(i)->getName());
+        EXPECT_EQ(board->getPlayer(i)->getId(), i);
     }
-    EXPECT_EQ(names, (std::vector<std::string>{"C", "D", "A", "B"}));
+    EXPECT_EQ(names, (Lines{"C", "D", "A", "B"}));
 }
 
-TEST(TurnOrder, ShuffleOfOnePlayerKeepsSlotZero) {
-    Recorder rec;
-    Windows windows(rec, rec, rec);
-    Board board(windows, std::make_unique<SeededRandom>(3));
-    board.init();
-    board.addPlayer("Solo", false, 0);
-    board.shufflePlayers();
-    EXPECT_EQ(board.getPlayer(0)->getName(), "Solo");
-    EXPECT_EQ(board.getPlayer(0)->getId(), 0);
+TEST_F(TurnOrder, ShuffleOfOnePlayerKeepsSlotZero) {
+    addHuman("Solo");
+    board->shufflePlayers();
+    EXPECT_EQ(board->getPlayer(0)->getName(), "Solo");
+    EXPECT_EQ(board->getPlayer(0)->getId(), 0);
 }
 
 }  // namespace
