@@ -36,6 +36,11 @@ constexpr std::array<const char*, kDeckSize> kTexts = {
 // The sums of the money cards, types 3 to 12.
 constexpr std::array<Integer, 5> kSums = {250, 200, 150, 100, 50};
 
+// The cells that the three forward cards advance.
+constexpr Integer forwardSteps(Integer type) {
+    return type == kForward7 ? 7 : type == kForward11 ? 11 : 5;
+}
+
 }  // namespace
 
 const char* JFLCard::textOf(Integer type) {
@@ -86,15 +91,9 @@ void JFLCard::doAction(player& p) {
             landOnCurrentCell(p);
             break;
         case kForward7:
-            p.move(7, false);
-            landOnCurrentCell(p);
-            break;
         case kForward11:
-            p.move(11, false);
-            landOnCurrentCell(p);
-            break;
         case kForward5:
-            p.move(5, false);
+            p.move(forwardSteps(type_), false);
             landOnCurrentCell(p);
             break;
         case kBack3:
