@@ -20,12 +20,13 @@ public:
         : windows_(main_, sound_, delay_),
           board_(windows_, std::make_unique<gw::SeededRandom>(seed)) {
         board_.init();
+        gw::GameSetup setup;
         for (int seat = 0; seat < players; ++seat) {
-            board_.addPlayer("Computer " + std::to_string(seat + 1), true,
-                             static_cast<gw::Integer>(seat));
+            setup.add("Computer " + std::to_string(seat + 1), true, static_cast<gw::Integer>(seat));
         }
+        board_.addPlayers(setup);
         board_.shufflePlayers();
-        windows_.main.UpdateTurnPlaying(2);
+        windows_.main.UpdateTurnPlaying(gw::TurnButtons::Neither);
     }
 
     // Plays one computer turn.

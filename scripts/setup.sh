@@ -5,7 +5,8 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 mode=${1:-play}
-packages=(cmake g++ make libgtest-dev libbenchmark-dev)
+packages=(cmake g++ make libgtest-dev libbenchmark-dev qt6-base-dev qt6-multimedia-dev
+    fonts-dejavu-core)
 
 missing=()
 for package in "${packages[@]}"; do
@@ -30,11 +31,14 @@ build() {  # build DIR [cmake options...]
 
 case "$mode" in
 play)
-    build build -DCMAKE_BUILD_TYPE=Release -DGILDENWAY_TESTS=OFF
-    # Until the windows land, the game runs headless: computer players to the end.
-    ./build/gildenway-sim --games 1 --players 4
+    build build -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=OFF -DGILDENWAY_BENCH=OFF
+    exec ./build/gildenway
     ;;
 test)
+    # No display here: the windows render offscreen.
+    export QT_QPA_PLATFORM=offscreen
+    XDG_RUNTIME_DIR=$(mktemp -d)
+    export XDG_RUNTIME_DIR
     build build -DCMAKE_BUILD_TYPE=Release
     ctest --test-dir build --output-on-failure -j "$jobs"
     build build-sanitize -DCMAKE_BUILD_TYPE=RelWithDebInfo -DGILDENWAY_SANITIZE=ON \

@@ -64,7 +64,7 @@ TEST_F(Computer, BuysOnlyWithThePriceInHandThenRaisesAHundredByMortgaging) {
     setBalance(*cpu, 199);
     actAndSettle();
     EXPECT_EQ(prop(12).getOwners(), nullptr);
-    EXPECT_FALSE(rec.has("sound: BUY.wav"));
+    EXPECT_FALSE(rec.has("sound: buy.wav"));
     EXPECT_EQ(cpu->getBalance(), 199);
 
     cpu->setDidAction(false);
@@ -74,7 +74,7 @@ TEST_F(Computer, BuysOnlyWithThePriceInHandThenRaisesAHundredByMortgaging) {
     EXPECT_TRUE(prop(12).isMortgaged2());  // the cell just bought
     EXPECT_EQ(cpu->getBalance(), 100);
     EXPECT_TRUE(cpu->getDidAction());
-    EXPECT_EQ(rec.only({"sound"}), (Lines{"sound: BUY.wav", "sound: pay.wav", "sound: buy.wav"}));
+    EXPECT_EQ(rec.only({"sound"}), (Lines{"sound: buy.wav", "sound: pay.wav", "sound: buy.wav"}));
     EXPECT_EQ(rec.only({"wait"}), Lines{"wait 20"});
 }
 
@@ -83,7 +83,7 @@ TEST_F(Computer, PaysRentInFullAndRaisesADebtAtZeroThenAtAHundred) {
     prop(15).Mortgage();
     placeAt(*cpu, 15);
     actAndSettle();
-    EXPECT_TRUE(rec.has("sound: PAY.wav"));  // even on a mortgaged cell, with nothing paid
+    EXPECT_TRUE(rec.has("sound: pay.wav"));  // even on a mortgaged cell, with nothing paid
     EXPECT_EQ(cpu->getBalance(), 1500);
     EXPECT_TRUE(rec.has("wait 20"));  // the wait runs with no card up
 
@@ -108,7 +108,7 @@ TEST_F(Computer, ThresholdsOfTradeBuildAndRaise) {
     cpu->autoPlay(2);
     EXPECT_EQ(street(3).getHotelCount(), 1);  // from the end of the board down
     EXPECT_EQ(street(1).getHotelCount(), 1);
-    EXPECT_EQ(rec.count("sound: BUILDING.wav"), 2);
+    EXPECT_EQ(rec.count("sound: building.wav"), 2);
 
     setBalance(*cpu, 100);  // exactly 100: nothing is raised
     cpu->autoPlay(2);

@@ -61,11 +61,11 @@ TEST_F(Debt, IncomeTaxIsTheLesserOfTwoHundredAndATenthOfWorth) {
 
 TEST_F(Debt, TaxCardShowsTheFlatSumButChargesTheLesserAndCloses) {
     land(*ann, 38);
-    EXPECT_EQ(tax().picture(), 1);
+    EXPECT_EQ(tax().picture(), TaxPicture::LuxuryTax);
     EXPECT_EQ(tax().Label1(), "Pay $75");
     land(*ann, 4);  // worth 1500: a tenth is 150
     EXPECT_TRUE(tax().isVisible());
-    EXPECT_EQ(tax().picture(), 0);
+    EXPECT_EQ(tax().picture(), TaxPicture::IncomeTax);
     EXPECT_EQ(tax().Label1(), "Pay $200");
     EXPECT_TRUE(tax().payRent().isOpen());
     tax().payRent_Click();

@@ -59,10 +59,10 @@ protected:
     }
 
     player& addHuman(const std::string& name, Integer token = 0) {
-        return board->addPlayer(name, false, token);
+        return *board->addPlayer(name, false, token);
     }
     player& addComputer(const std::string& name, Integer token = 0) {
-        return board->addPlayer(name, true, token);
+        return *board->addPlayer(name, true, token);
     }
 
     // The two dice of the next throw.

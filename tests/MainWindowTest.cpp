@@ -91,6 +91,7 @@ TEST_F(Window, JailButtonsFollowBalanceAndCard) {
     player& p = board->getCurrPlayer();
     p.goToJail();
     setBalance(p, 49);
+    model.UpdateTurnPlaying(TurnButtons::Roll);  // a later turn: to throw, in jail
     model.showInJail();
     const auto jailButtons = [this] {
         return shown("pay50Rent useJFLCard", {&model.pay50Rent(), &model.useJFLCard()});
@@ -164,6 +165,7 @@ TEST_F(Window, CellClicksOpenCardsOnlyOnBuyableCellsAndOnlyForAHuman) {
     card().Ok_Click(0);
 
     p0.goToJail();
+    model.UpdateTurnPlaying(TurnButtons::Roll);
     model.showInfo("");
     model.cell_Click(5);
     EXPECT_TRUE(card().isVisible());

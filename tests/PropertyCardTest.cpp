@@ -61,9 +61,12 @@ TEST_F(PropertyCard, InformationCardPrintsEachValueInItsLabelAndNoButton) {
 }
 
 TEST_F(PropertyCard, PictureFollowsTheGroup) {
-    const std::pair<Integer, int> cases[] = {
-        {1, 0},  {3, 0},  {6, 1},  {11, 2},  {16, 3},  {21, 4},  {26, 5}, {31, 6},
-        {37, 7}, {39, 7}, {5, 11}, {15, 11}, {25, 11}, {35, 11}, {12, 9}, {28, 10}};
+    using P = CardPicture;
+    const std::pair<Integer, P> cases[] = {
+        {1, P::District1},  {3, P::District1},  {6, P::District2},  {11, P::District3},
+        {16, P::District4}, {21, P::District5}, {26, P::District6}, {31, P::District7},
+        {37, P::District8}, {39, P::District8}, {5, P::Metro},      {15, P::Metro},
+        {25, P::Metro},     {35, P::Metro},     {12, P::Utility1},  {28, P::HQ}};
     for (const auto& [cellId, picture] : cases) {
         click(*ann, cellId);
         EXPECT_EQ(card().picture(), picture) << "cell " << cellId;
@@ -194,7 +197,7 @@ TEST_F(PropertyCard, AnotherPlayersCellIsOpenToATradeUnlessHotelsOrDebt) {
     EXPECT_FALSE(card().isVisible());
     EXPECT_EQ(rec.log, Lines{"setEnabled(true)"});
     ASSERT_TRUE(trading().isVisible());
-    EXPECT_EQ(trading().face(), 1);
+    EXPECT_EQ(trading().face(), TradeFace::Buyer);
     EXPECT_EQ((Lines{trading().label(1), trading().label(2), trading().label(3)}),
               (Lines{"Outremont", "Bob", "Ann"}));
 

@@ -45,7 +45,7 @@ public:
         log.push_back("showInfo: " + std::string(msg));
         if (model) model->showInfo(msg);
     }
-    void UpdateTurnPlaying(Integer opt) override {
+    void UpdateTurnPlaying(TurnButtons opt) override {
         pass("UpdateTurnPlaying", &P::UpdateTurnPlaying, opt);
     }
     void Showdice(Integer a, Integer b) override { pass("Showdice", &P::Showdice, a, b); }
@@ -66,8 +66,9 @@ public:
     void setEnabled(bool enabled) override { pass("setEnabled", &P::setEnabled, enabled); }
     void showGameEnd() override { pass("showGameEnd", &P::showGameEnd); }
 
-    void play(MediaPlayer player, std::string_view file) override {
-        log.push_back((player == MediaPlayer::Main2 ? "sound2: " : "sound: ") + std::string(file));
+    void play(MediaPlayer player, SoundEffect effect) override {
+        log.push_back((player == MediaPlayer::Main2 ? "sound2: " : "sound: ") +
+                      std::string(soundFile(effect)));
     }
     void setVolume(MediaPlayer player, int volume) override {
         log.push_back("volume " + std::to_string(static_cast<int>(player)) + " " +
@@ -78,6 +79,7 @@ public:
 private:
     static std::string text(Integer value) { return std::to_string(value); }
     static std::string text(bool value) { return value ? "true" : "false"; }
+    static std::string text(TurnButtons value) { return std::to_string(static_cast<int>(value)); }
     // Logs the call as name(arg,arg) and passes it on.
     template <class... Params, class... Args>
     void pass(std::string line, void (P::*call)(Params...), Args... args) {

@@ -1,6 +1,10 @@
-// The headless simulator: its games repeat by seed whatever the number of jobs, and its
+// The headless simulator: its runs repeat by seed whatever the number of jobs, its
+// summary counts seats in the order of play and turns over finished games only, and its
 // checks name a movement of money that no rule explains.
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
 
 #include "Checker.h"
 #include "Simulation.h"
@@ -8,17 +12,108 @@
 namespace gw::test {
 namespace {
 
-TEST(Simulator, TheSameSeedGivesTheSameCheckedGamesWhateverTheJobs) {
-    sim::RunConfig config{20, 4, 9, 10000, 1, true};
-    const std::vector<sim::GameResult> one = sim::playGames(config);
+TEST(Simulator, TheSameSeedGivesTheSameCheckedRunWhateverTheJobs) {
+    sim::RunConfig config{40, 4, 9, 10000, 1, true};
+    const sim::Summary one = sim::playGames(config);
     config.jobs = 3;
-    const std::vector<sim::GameResult> three = sim::playGames(config);
-    ASSERT_EQ(one.size(), three.size());
-    for (std::size_t g = 0; g < one.size(); ++g) {
-        EXPECT_EQ(one[g].violation, "");
-        EXPECT_EQ(one[g].turns, three[g].turns);
-        EXPECT_EQ(one[g].winnerSeat, three[g].winnerSeat);
+    const sim::Summary three = sim::playGames(config);
+    EXPECT_EQ(one.games, 40);
+    EXPECT_EQ(one.violations, 0);
+    EXPECT_TRUE(one == three);
+    EXPECT_EQ(one.medianTurns(), three.medianTurns());
+}
+
+TEST(Simulator, WinsAreCountedBySeatInTheOrderOfPlay) {
+    int reordered = 0;
+    for (int game = 0; game < 12; ++game) {
+        const sim::GameConfig config{3, game, 4, 10000, false};
+        const sim::GameResult result = sim::playGame(config);
+        ASSERT_TRUE(result.finished);
+
+        // The same game played out here: the slot of the one left standing.
+        sim::LedgerWindow window(false);
+        SilentSound sound;
+        InstantDelay delay;
+        Windows windows(window, sound, delay);
+        Board board(windows, std::make_unique<SeededRandom>(sim::gameSeed(3, game)));
+        board.init();
+        for (int seat = 0; seat < 4; ++seat) {
+            board.addPlayer(sim::seatName(seat), true, static_cast<Integer>(seat));
+        }
+        board.shufflePlayers();
+        window.attach(board);
+        board.playTurn();
+        int left = -1;
+        for (Integer slot = 0; slot < 4; ++slot) {
+            if (!board.getPlayer(slot)->isBankrupt2()) left = slot;
+        }
+        EXPECT_EQ(result.winnerSeat, left) << "game " << game;
+        if (board.getPlayer(static_cast<Integer>(left))->getName() != sim::seatName(left)) {
+            ++reordered;
+        }
     }
+    // Otherwise the seats of sitting down and of play would not have been told apart.
+    EXPECT_GT(reordered, 0);
+}
+
+sim::GameResult finishedIn(int turns, int winner = 0) {
+    sim::GameResult r;
+    r.turns = turns;
+    r.finished = true;
+    r.winnerSeat = winner;
+    return r;
+}
+
+TEST(Simulator, TurnFiguresAreOverFinishedGamesOnly) {
+    sim::Summary s(3);
+    // 20 finished games of 1 to 20 turns, and long games that did not finish.
+    for (int t = 20; t >= 1; --t) s.add(finishedIn(t, t % 3));
+    sim::GameResult capped;
+    capped.turns = 10000;
+    s.add(capped);
+    sim::GameResult stalled = capped;
+    stalled.stalled = true;
+    s.add(stalled);
+    sim::GameResult fault = finishedIn(9000);
+    fault.violation = "broken";
+    s.add(fault);
+
+    EXPECT_EQ(s.games, 23);
+    EXPECT_EQ(s.finished, 20);
+    EXPECT_EQ(s.capped, 1);
+    EXPECT_EQ(s.stalled, 1);
+    EXPECT_EQ(s.violations, 1);
+    EXPECT_EQ(s.turns, 210 + 29000);
+    EXPECT_DOUBLE_EQ(s.meanTurns(), 10.5);
+    EXPECT_DOUBLE_EQ(s.medianTurns(), 10.5);
+    EXPECT_EQ(s.p95Turns(), 19);  // rank 19 of 20
+    EXPECT_EQ(s.winsBySeat, (std::vector<long long>{6, 7, 7}));
+
+    s.add(finishedIn(21));
+    EXPECT_DOUBLE_EQ(s.medianTurns(), 11);
+    EXPECT_EQ(s.p95Turns(), 20);  // rank 20 of 21
+}
+
+TEST(Simulator, PartsOfARunAddUpToTheWholeAndKeepTheFirstFaults) {
+    std::vector<sim::GameResult> results;
+    for (int g = 0; g < 30; ++g) {
+        sim::GameResult r = finishedIn(100 + g * 7 % 13, g % 4);
+        r.game = g;
+        r.bankruptcies = 3;
+        if (g % 2 == 1) r.violation = "fault in game " + std::to_string(g);
+        results.push_back(r);
+    }
+    sim::Summary whole(4);
+    for (const sim::GameResult& r : results) whole.add(r);
+    sim::Summary someParts(4);
+    sim::Summary otherParts(4);
+    for (auto r = results.rbegin(); r != results.rend(); ++r)
+        (r->game % 3 == 0 ? someParts : otherParts).add(*r);
+    otherParts.merge(someParts);
+    EXPECT_TRUE(otherParts == whole);
+    ASSERT_EQ(whole.faults.size(), sim::Summary::kKeptFaults);
+    EXPECT_EQ(whole.faults.front().second, "fault in game 1");
+    EXPECT_EQ(whole.faults.back().second, "fault in game 19");
 }
 
 TEST(Simulator, AStrayPaymentIsCaught) {

@@ -50,11 +50,11 @@ TEST_F(TradingWithComputer, EachFaceOpensItsButtonsByWhoIsAComputer) {
     for (const auto& [buyer, owner, ownersFace] : cases) {
         SCOPED_TRACE(buyer->getName() + " to " + owner->getName());
         trading().proposeTrade(5, *buyer, "Outremont", owner->getName());
-        EXPECT_EQ(trading().face(), 1);
+        EXPECT_EQ(trading().face(), TradeFace::Buyer);
         EXPECT_EQ(controls(trading()), buyer->isComputer2() ? (Lines{"wantIt*", "forgetIt*"})
                                                             : (Lines{"wantIt", "forgetIt"}));
         trading().seeTrade(5, *owner, 120);
-        EXPECT_EQ(trading().face(), 0);
+        EXPECT_EQ(trading().face(), TradeFace::Owner);
         EXPECT_EQ(trading().Label4().caption, "120");
         EXPECT_EQ(controls(trading()), ownersFace);
     }
@@ -97,7 +97,7 @@ TEST_F(Trading, ForgetItOrAnUnreadableSumMakesNoTrade) {
         trading().setAmountText(text);
         trading().wantIt_Click();
         EXPECT_TRUE(trading().isVisible());
-        EXPECT_EQ(trading().face(), 1);
+        EXPECT_EQ(trading().face(), TradeFace::Buyer);
     }
     trading().forgetIt_Click();
     EXPECT_FALSE(trading().isVisible());
@@ -114,7 +114,7 @@ TEST_F(Trading, HumanOwnerTakesTheSumOnTheTableEvenBeyondTheBuyersCash) {
     setBalance(*ann, 100);
     offer(5, "400");
     EXPECT_TRUE(trading().isVisible());
-    EXPECT_EQ(trading().face(), 0);
+    EXPECT_EQ(trading().face(), TradeFace::Owner);
     EXPECT_EQ(trading().Label4().caption, "400");
     EXPECT_EQ(prop(5).getOwners(), bob);  // nothing moves before the owner's answer
     rec.clear();
@@ -133,7 +133,7 @@ TEST_F(Trading, WantMoreNeedsAHigherReadableSumToKeepTheTalkGoing) {
     for (const char* ask : {"250", "100", "", "40000"}) {
         SCOPED_TRACE(ask);
         offer(5, "250");
-        ASSERT_EQ(trading().face(), 0);
+        ASSERT_EQ(trading().face(), TradeFace::Owner);
         trading().setAmountText(ask);
         trading().wantMore_Click();
         EXPECT_FALSE(trading().isVisible());
@@ -142,7 +142,7 @@ TEST_F(Trading, WantMoreNeedsAHigherReadableSumToKeepTheTalkGoing) {
     offer(5, "250");
     type("300");
     trading().wantMore_Click();
-    EXPECT_EQ(trading().face(), 0);
+    EXPECT_EQ(trading().face(), TradeFace::Owner);
     EXPECT_EQ(trading().Label4().caption, "300");
     trading().doneDeal_Click();
     EXPECT_EQ(prop(5).getOwners(), ann);

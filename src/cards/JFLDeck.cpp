@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "game/Board.h"
+#include "game/Scatter.h"
 
 namespace gw {
 namespace {
@@ -24,18 +25,10 @@ void JFLDeck::init() {
 }
 
 void JFLDeck::shuffle() {
+    // Card 0 keeps the slot left free; the search wraps one slot early, so the last slot
+    // is only ever taken by a draw that hits it.
     std::array<Integer, kDeckSize> order{};
-    for (Integer v = 1; v < kDeckSize; ++v) {
-        int pos = static_cast<int>(board_.draw() * kDeckSize);
-        if (order[static_cast<std::size_t>(pos)] != 0) {
-            for (;;) {
-                if (pos == kDeckSize - 1) pos = 0;
-                if (order[static_cast<std::size_t>(pos)] == 0) break;
-                ++pos;
-            }
-        }
-        order[static_cast<std::size_t>(pos)] = v;
-    }
+    scatter(order, kDeckSize - 1, kDeckSize - 1, [this] { return board_.draw(); });
     std::array<std::unique_ptr<JFLCard>, kDeckSize> shuffled;
     for (std::size_t i = 0; i < kDeckSize; ++i) {
         shuffled[static_cast<std::size_t>(order[i])] = std::move(cards_[i]);

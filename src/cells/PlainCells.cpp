@@ -21,7 +21,7 @@ TaxCell* BoardCell::asTax() {
 }
 
 void goToJail::doAction(player& p) {
-    getCell().getBoard().windows().sound.play(MediaPlayer::Main1, "newpolice.wav");
+    getCell().getBoard().windows().sound.play(MediaPlayer::Main1, SoundEffect::Police);
     p.goToJail();
     Cell_doAction(p);  // cell 30 redrawn with the token gone
 }

@@ -7,6 +7,7 @@
 
 #include "cells/BoardCell.h"
 #include "cells/Property.h"
+#include "windows/WindowCodes.h"
 
 namespace gw {
 
@@ -16,9 +17,6 @@ struct CardValues {
     std::size_t count = 0;
     std::span<const Integer> span() const { return {values.data(), count}; }
 };
-
-// The card value opt: what the property card offers.
-enum CardOpt : Integer { kOptInfo = 0, kOptBuy = 1, kOptRent = 2, kOptOwn = 3, kOptTrade = 4 };
 
 class PropertyCell : public BoardCell {
 public:

@@ -14,6 +14,9 @@ public:
         : PropertyCell(CellKind::Street, std::move(plain), price), distId_(distId) {}
 
     Integer getDistId() const { return distId_; }
+    // The district, 1 to 8, and the street's number in it, 1 to 3.
+    Integer district() const { return static_cast<Integer>(distId_ / 10); }
+    Integer streetNumber() const { return static_cast<Integer>(distId_ % 10); }
     // The rent due: by the hotel table when there are hotels, else the bare rent.
     Integer getRent() const override;
     // Rent by the number of hotels, from the price; 0 for a count outside 1 to 4.
@@ -22,7 +25,7 @@ public:
     Integer getHotelCount() const override { return hotelCount_; }
     void addHotel();
     void destroyHotel();
-    Integer groupNumber() const override { return rounded(distId_ / 10.0); }
+    Integer groupNumber() const override { return district(); }
 
 protected:
     CardValues cardValues() const override;

@@ -1,8 +1,10 @@
 // The order of play and the turn cycle.
 #include "game/Board.h"
 
-#include <cassert>
+#include <span>
 #include <string>
+
+#include "game/Scatter.h"
 
 namespace gw {
 
@@ -19,22 +21,25 @@ void Board::deleteAllPlayer() {
     for (auto& slot : players_) slot.reset();
 }
 
-void Board::addPlayer(std::unique_ptr<player> playerInfo) {
-    if (numPlayer_ >= kPlayerSlots) return;
+bool Board::addPlayer(std::unique_ptr<player> playerInfo) {
+    if (numPlayer_ >= kMaxPlayers) return false;
     players_[static_cast<std::size_t>(numPlayer_)] = std::move(playerInfo);
     ++numPlayer_;
+    return true;
 }
 
-player& Board::addPlayer(std::string name, bool isComputer, Integer token) {
-    // Set-up adds six players at most; a full table keeps the players it has.
-    assert(numPlayer_ < kPlayerSlots);
-    if (numPlayer_ >= kPlayerSlots) return *players_[kPlayerSlots - 1];
+player* Board::addPlayer(std::string name, bool isComputer, Integer token) {
+    if (numPlayer_ >= kMaxPlayers) return nullptr;
     addPlayer(std::make_unique<player>(numPlayer_, std::move(name), *this, isComputer, token));
-    return *players_[static_cast<std::size_t>(numPlayer_ - 1)];
+    return players_[static_cast<std::size_t>(numPlayer_ - 1)].get();
+}
+
+void Board::addPlayers(const GameSetup& setup) {
+    for (const GameSetup::Seat& seat : setup.seats) addPlayer(seat.name, seat.computer, seat.token);
 }
 
 player* Board::getPlayer(Integer id) const {
-    if (id < 0 || id >= kPlayerSlots) return nullptr;
+    if (id < 0 || id >= kMaxPlayers) return nullptr;
     return players_[static_cast<std::size_t>(id)].get();
 }
 
@@ -47,23 +52,12 @@ Integer Board::countSolvent() const {
     return solvent;
 }
 
-// A scatter into target places: a taken place passes the value on to the next free one,
-// in a ring.
+// Player i of the old order goes to the place the scatter gave it.
 void Board::shufflePlayers() {
     const int n = numPlayer_;
-    std::array<Integer, kPlayerSlots> order{};
-    for (Integer v = 1; v <= n; ++v) {
-        int pos = static_cast<int>(draw() * n);
-        if (order[static_cast<std::size_t>(pos)] != 0) {
-            for (;;) {
-                if (pos == n) pos = 0;
-                if (order[static_cast<std::size_t>(pos)] == 0) break;
-                ++pos;
-            }
-        }
-        order[static_cast<std::size_t>(pos)] = v;
-    }
-    std::array<std::unique_ptr<player>, kPlayerSlots> shuffled;
+    std::array<Integer, kMaxPlayers> order{};
+    scatter(std::span(order.data(), static_cast<std::size_t>(n)), n, n, [this] { return draw(); });
+    std::array<std::unique_ptr<player>, kMaxPlayers> shuffled;
     for (int i = 0; i < n; ++i) {
         shuffled[static_cast<std::size_t>(order[static_cast<std::size_t>(i)] - 1)] =
             std::move(players_[static_cast<std::size_t>(i)]);
@@ -107,7 +101,7 @@ void Board::playOneTurn() {
     rollDice();
     player& current = getCurrPlayer();
     getCell(current.getPosition())->doAction(current);
-    windows_.main.UpdateTurnPlaying(1);
+    windows_.main.UpdateTurnPlaying(TurnButtons::Finish);
 }
 
 void Board::rollDice() {
@@ -125,13 +119,13 @@ void Board::rollDice() {
     }
     if (p.getDoubleCount() == 3) {
         main.showInfo(p.getName() + ", you have rolled three doubles, go to jail!");
-        windows_.sound.play(MediaPlayer::Main2, "newpolice.wav");
+        windows_.sound.play(MediaPlayer::Main2, SoundEffect::Police);
         p.goToJail();
     } else if (p.IsInJail()) {
         if (p.getDoubleCount() == 0) {
             p.incJailCount();
             main.showInfo(p.getName() + ", no doubles, stay in jail!");
-            main.UpdateTurnPlaying(1);
+            main.UpdateTurnPlaying(TurnButtons::Finish);
         } else {
             main.showInfo("Good Job" + p.getName() + ", you can now get out of jail!");
             p.getOutOfJail();
@@ -168,10 +162,10 @@ void Board::endTurn() {
             q.resetDoubleCount();
             endTurn();
         } else if (q.isComputer2()) {
-            main.UpdateTurnPlaying(2);
+            main.UpdateTurnPlaying(TurnButtons::Neither);
             if (countSolvent() > 1) playTurn();
         } else {
-            main.UpdateTurnPlaying(0);
+            main.UpdateTurnPlaying(TurnButtons::Roll);
         }
     }
     if (!getCurrPlayer().isComputer2()) main.showInJail();

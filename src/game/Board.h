@@ -10,16 +10,14 @@
 #include "cards/JFLDeck.h"
 #include "cells/BoardCell.h"
 #include "game/Dice.h"
+#include "game/GameSetup.h"
 #include "game/Integer.h"
+#include "game/Limits.h"
 #include "game/Random.h"
 #include "players/player.h"
 #include "windows/Windows.h"
 
 namespace gw {
-
-constexpr Integer kCellCount = 40;
-constexpr Integer kPlayerSlots = 9;
-constexpr Integer kMaxPlayers = 6;
 
 class Board {
 public:
@@ -38,10 +36,12 @@ public:
     Street* streetAt(Integer pos) const;
     // Empties the player slots; init is what sets the counts back to 0.
     void deleteAllPlayer();
-    // Stores the player in the next slot; a full table takes no more.
-    void addPlayer(std::unique_ptr<player> playerInfo);
-    // Makes a player with the next free id and stores it; the table must have room.
-    player& addPlayer(std::string name, bool isComputer, Integer token);
+    // Stores the player in the next slot; false, and nothing stored, when six are seated.
+    bool addPlayer(std::unique_ptr<player> playerInfo);
+    // Makes a player with the next free id and stores it; null when six are seated.
+    player* addPlayer(std::string name, bool isComputer, Integer token);
+    // Seats the players of a set-up, in its order, up to six.
+    void addPlayers(const GameSetup& setup);
     // Draws the order of play and renumbers the players by it.
     void shufflePlayers();
 
@@ -79,7 +79,7 @@ private:
 
     Integer currPlayer_ = 0;
     Integer numPlayer_ = 0;
-    std::array<std::unique_ptr<player>, kPlayerSlots> players_;
+    std::array<std::unique_ptr<player>, kMaxPlayers> players_;
     std::array<std::unique_ptr<BoardCell>, kCellCount> cells_;
     Windows& windows_;
     std::unique_ptr<Random> random_;

@@ -36,18 +36,18 @@ void player::autoPlay(Integer opt) {
 // doubles only when short of the fee.
 void player::autoLeaveJailAndRoll() {
     if (!IsInJail()) {
-        playSound("DICEROLL.wav");
+        playSound(SoundEffect::DiceRoll);
         board_.rollDice();
     } else if (hasGoJFC()) {
         useGOJFC();
         board_.rollDice();
-        playSound("DICEROLL.wav");
+        playSound(SoundEffect::DiceRoll);
     } else if (balance_ < kJailFee) {
-        playSound("DICEROLL.wav");
+        playSound(SoundEffect::DiceRoll);
         board_.rollDice();
     } else {
         pay50GOJ();
-        playSound("DICEROLL.wav");
+        playSound(SoundEffect::DiceRoll);
         board_.rollDice();
     }
 }
@@ -68,16 +68,16 @@ void player::autoSettleTradeRaiseBuild() {
         const player* owner = prop->getProp().getOwners();
         if (owner == nullptr) {
             if (canBuy(position_)) {
-                playSound("BUY.wav");
+                playSound(SoundEffect::Buy);
                 buyProperty();
             }
         } else if (owner != this) {
-            playSound("PAY.wav");
+            playSound(SoundEffect::Pay);
             payRent();
         }
     } else if (c->isTax()) {
         windows().taxCard.computerThink();
-        playSound("PAY.wav");
+        playSound(SoundEffect::Pay);
         payRent();
     }
     if (balance_ > kTradeAbove) autoTrade();
@@ -100,7 +100,7 @@ void player::autoBuild() {
         int built = 0;
         for (Integer i = kCellCount - 1; i >= 0; --i) {
             if (!canBuild(i)) continue;
-            playSound("BUILDING.wav");
+            playSound(SoundEffect::Building);
             buildHotel(i);
             ++built;
         }

@@ -22,8 +22,8 @@ BoardCell* player::cellUnder() const {
     return board_.getCell(position_);
 }
 
-void player::playSound(const char* file) const {
-    windows().sound.play(MediaPlayer::Main1, file);
+void player::playSound(SoundEffect effect) const {
+    windows().sound.play(MediaPlayer::Main1, effect);
 }
 
 void player::incJailCount() {
@@ -53,7 +53,7 @@ void player::goToJail() {
         move(kJailCell, true);
     }
     windows().main.showInfo("Go to jail!");
-    playSound("jailthere.wav");
+    playSound(SoundEffect::Jail);
     inJail_ = true;
 }
 
@@ -64,31 +64,43 @@ void player::getOutOfJail() {
 
 void player::move(Integer numCells, bool penalty) {
     MainWindowPort& main = windows().main;
-    main.UpdateTurnPlaying(2);
+    main.UpdateTurnPlaying(TurnButtons::Neither);
     Integer from = position_;
-    position_ = addSat(position_, numCells);
+    const Integer to = addSat(position_, numCells);
+    const bool passesGo = to >= 40;
+    // The position is the cell walked to before the walk begins, so that a click served
+    // during the walk never sees one beyond the ring.
+    position_ = passesGo ? static_cast<Integer>(to - 40) : to;
+    walking_ = true;
     board_.getCell(from)->display();  // drawn without this token: the position is new already
-    if (position_ >= 40) {
+    if (passesGo) {
         main.MoveToken(id_, from, 39);
-        position_ = static_cast<Integer>(position_ - 40);
         from = 0;
         if (!penalty) credit(kGoMoney);
     }
     main.MoveToken(id_, from, position_);
-    if (isComputer_) main.UpdateTurnPlaying(2);
+    walking_ = false;
+    if (isComputer_) main.UpdateTurnPlaying(TurnButtons::Neither);
+}
+
+// The turn buttons follow the player whose turn it is: money that moves for another player,
+// in a late trade, says nothing about whether the current one can pay.
+void player::showPayingButtons() const {
+    const player& current = board_.getCurrPlayer();
+    windows().main.showNegBalance(current.balance_ < 0);
 }
 
 void player::debit(Integer amount) {
-    playSound("pay.wav");
+    playSound(SoundEffect::Pay);
     balance_ = subSat(balance_, amount);
-    windows().main.showNegBalance(balance_ < 0);
+    showPayingButtons();
     windows().main.UpdatePlayers();
 }
 
 void player::credit(Integer amount) {
-    playSound("buy.wav");
+    playSound(SoundEffect::Buy);
     balance_ = addSat(balance_, amount);
-    windows().main.showNegBalance(balance_ < 0);
+    showPayingButtons();
     windows().main.UpdatePlayers();
 }
 

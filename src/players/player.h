@@ -8,6 +8,7 @@
 #include <string>
 
 #include "game/Integer.h"
+#include "windows/Sound.h"
 
 namespace gw {
 
@@ -38,6 +39,9 @@ public:
     bool isBankrupt2() const { return isBankrupt_; }
     Integer getBalance() const { return balance_; }
     Integer getPosition() const { return position_; }
+    // True while the token walks: the position is already the cell it walks to.
+    bool isWalking() const { return walking_; }
+    Board& getBoard() const { return board_; }
 
     // Jail and doubles
     bool IsInJail() const { return inJail_; }
@@ -109,7 +113,8 @@ private:
     // The tax due on a tax cell, with the lesser-of rule of income tax.
     Integer taxDue(const BoardCell& taxCell);
     void setStreetEntry(const BoardCell& c, bool owned);
-    void playSound(const char* file) const;
+    void playSound(SoundEffect effect) const;
+    void showPayingButtons() const;
     void autoLeaveJailAndRoll();
     void autoReleaseAndAct();
     void autoSettleTradeRaiseBuild();
@@ -129,6 +134,7 @@ private:
     std::array<std::array<bool, 3>, 8> ownedStreets_{};
     Board& board_;
     bool didAction_ = false;
+    bool walking_ = false;
 };
 
 }  // namespace gw

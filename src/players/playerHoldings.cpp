@@ -10,10 +10,10 @@ namespace {
 
 // The entry of a street in the owner's table: district row and street column.
 int rowOf(const Street& s) {
-    return s.getDistId() / 10 - 1;
+    return s.district() - 1;
 }
 int columnOf(const Street& s) {
-    return s.getDistId() % 10 - 1;
+    return s.streetNumber() - 1;
 }
 
 }  // namespace
@@ -64,7 +64,7 @@ bool player::ownDist(Integer iDist) {
 bool player::canBuild(Integer cellId) {
     const Street* s = board_.streetAt(cellId);
     if (s == nullptr || s->getProp().getOwners() != this) return false;
-    return ownDist(rounded(s->getDistId() / 10.0 - 1)) && s->getHotelCount() < kMaxHotels &&
+    return ownDist(static_cast<Integer>(rowOf(*s))) && s->getHotelCount() < kMaxHotels &&
            !s->getProp().isMortgaged2() && s->getHotelCost() <= balance_;
 }
 

@@ -1,5 +1,7 @@
 #include "windows/CellInfoWindow.h"
 
+#include "cells/PropertyCell.h"
+#include "game/Board.h"
 #include "players/player.h"
 #include "windows/Windows.h"
 
@@ -19,9 +21,11 @@ void CellInfoWindow::showInfoCard(Integer iId, Integer iGroup, std::span<const I
                                   const std::string& sOwner) {
     // A card called over an open one takes the main window until one of its buttons is used.
     if (isVisible()) windows_.main.setEnabled(false);
-    picture_ = -1;
+    picture_ = CardPicture::None;
     cardOpt_ = opt;
     cardPlayer_ = &p;
+    const PropertyCell* shownCell = p.getBoard().propertyAt(iId);
+    ownerWhenShown_ = shownCell == nullptr ? nullptr : shownCell->getProp().getOwners();
     cardId_ = iId;
     cardName_ = sName;
     cardOwner_ = sOwner;
@@ -72,16 +76,16 @@ void CellInfoWindow::showInfoCard(Integer iId, Integer iGroup, std::span<const I
     }
 
     if (iGroup >= 1 && iGroup <= 8) {
-        picture_ = iGroup - 1;
+        picture_ = static_cast<CardPicture>(iGroup - 1);
         static constexpr int kStreetLabels[] = {2, 4, 5, 6, 7, 8, 9, 10};
         for (std::size_t i = 0; i < iValues.size() && i < 8; ++i) {
             labels_[static_cast<std::size_t>(kStreetLabels[i])] = dollars(iValues[i]);
         }
         if (cardOpt_ == 3) showOwnCellButtons(p.canBuild(cardId_) || p.canSellHotel(cardId_));
     } else if (iGroup == 9 || iGroup == 10) {
-        if (iGroup == 9) picture_ = 11;
-        if (iGroup == 10 && cardId_ == 12) picture_ = 9;
-        if (iGroup == 10 && cardId_ == 28) picture_ = 10;
+        if (iGroup == 9) picture_ = CardPicture::Metro;
+        if (iGroup == 10 && cardId_ == 12) picture_ = CardPicture::Utility1;
+        if (iGroup == 10 && cardId_ == 28) picture_ = CardPicture::HQ;
         static constexpr int kOtherLabels[] = {2, 6, 8};
         for (std::size_t i = 0; i < iValues.size() && i < 3; ++i) {
             labels_[static_cast<std::size_t>(kOtherLabels[i])] = dollars(iValues[i]);
@@ -134,19 +138,40 @@ void CellInfoWindow::finishCard() {
     hideAndEnableMain();
 }
 
+bool CellInfoWindow::stillHolds(bool onTheCell) const {
+    if (cardPlayer_ == nullptr || cardPlayer_->isBankrupt2()) return false;
+    const PropertyCell* prop = cardPlayer_->getBoard().propertyAt(cardId_);
+    if (prop == nullptr || prop->getProp().getOwners() != ownerWhenShown_) return false;
+    return !onTheCell || (!cardPlayer_->isWalking() && cardPlayer_->getPosition() == cardId_);
+}
+
+template <class Action>
+void CellInfoWindow::act(bool onTheCell, Action action) {
+    if (!isVisible()) return;
+    if (!stillHolds(onTheCell)) {
+        hideAndEnableMain();
+        return;
+    }
+    action();
+}
+
 void CellInfoWindow::buy_Click() {
-    cardPlayer_->buyProperty();
-    finishCard();
-    windows_.main.showInfo(cardPlayer_->getName() + " has bought " + cardName_);
+    act(true, [this] {
+        cardPlayer_->buyProperty();
+        finishCard();
+        windows_.main.showInfo(cardPlayer_->getName() + " has bought " + cardName_);
+    });
 }
 
 void CellInfoWindow::forget_Click() {
-    finishCard();
+    act(true, [this] { finishCard(); });
 }
 
 void CellInfoWindow::payRent_Click() {
-    cardPlayer_->payRent();
-    finishCard();
+    act(true, [this] {
+        cardPlayer_->payRent();
+        finishCard();
+    });
 }
 
 void CellInfoWindow::Ok_Click(int) {
@@ -157,31 +182,67 @@ void CellInfoWindow::close() {
     hideAndEnableMain();
 }
 
+void CellInfoWindow::forgetPlayers() {
+    cardPlayer_ = nullptr;
+    ownerWhenShown_ = nullptr;
+    setVisible(false);
+}
+
 void CellInfoWindow::buyHotel_Click() {
-    cardPlayer_->buildHotel(cardId_);
-    hideAndEnableMain();
-    windows_.sound.play(MediaPlayer::Main1, "building.wav");
+    act(false, [this] {
+        cardPlayer_->buildHotel(cardId_);
+        hideAndEnableMain();
+        windows_.sound.play(MediaPlayer::Main1, SoundEffect::Building);
+    });
 }
 
 void CellInfoWindow::sellHotel_Click() {
-    cardPlayer_->sellHotel(cardId_);
-    hideAndEnableMain();
+    act(false, [this] {
+        cardPlayer_->sellHotel(cardId_);
+        hideAndEnableMain();
+    });
 }
 
 void CellInfoWindow::Mortgage_Click(int) {
-    cardPlayer_->mortgageProp(cardId_);
-    hideAndEnableMain();
-    windows_.sound.play(MediaPlayer::Main1, "mortaged.wav");
+    act(false, [this] {
+        cardPlayer_->mortgageProp(cardId_);
+        hideAndEnableMain();
+        windows_.sound.play(MediaPlayer::Main1, SoundEffect::Mortgaged);
+    });
 }
 
 void CellInfoWindow::Unmortgage_Click() {
-    cardPlayer_->unmortgageProp(cardId_);
-    hideAndEnableMain();
+    act(false, [this] {
+        cardPlayer_->unmortgageProp(cardId_);
+        hideAndEnableMain();
+    });
 }
 
+// Called by the button and by a computer looking for a district it lacks.
 void CellInfoWindow::trade_Click() {
+    if (!stillHolds(false)) {
+        hideAndEnableMain();
+        return;
+    }
     hideAndEnableMain();
     windows_.trading.proposeTrade(cardId_, *cardPlayer_, cardName_, cardOwner_);
+}
+
+void CellInfoWindow::forEachControl(const ControlVisitor& fn) const {
+    for (int n = 1; n <= 10; ++n) {
+        fn("Label" + std::to_string(n), Control{true, true, labels_[static_cast<std::size_t>(n)]});
+    }
+    fn("buy", buy_);
+    fn("forget", forget_);
+    fn("payRent", payRent_);
+    fn("trade", trade_);
+    fn("Ok(0)", ok_[0]);
+    fn("Ok(1)", ok_[1]);
+    fn("Mortgage(0)", mortgage_[0]);
+    fn("Mortgage(1)", mortgage_[1]);
+    fn("Unmortgage", unmortgage_);
+    fn("buyHotel", buyHotel_);
+    fn("sellHotel", sellHotel_);
 }
 
 }  // namespace gw

@@ -10,6 +10,7 @@
 
 #include "game/Integer.h"
 #include "windows/Control.h"
+#include "windows/WindowCodes.h"
 
 namespace gw {
 
@@ -38,6 +39,11 @@ public:
     // The window's own close box: no effect on the game, but the main window comes back.
     void close();
 
+    // Every control by its name, as a view binds them.
+    void forEachControl(const ControlVisitor& fn) const;
+    // A new game: the card forgets the player of the last game.
+    void forgetPlayers();
+
     // Fields of the last card.
     player* cardPlayer() const { return cardPlayer_; }
     Integer cardId() const { return cardId_; }
@@ -45,8 +51,8 @@ public:
     const std::string& cardOwner() const { return cardOwner_; }
     Integer cardOpt() const { return cardOpt_; }
 
-    // Which of the twelve card pictures is on show, -1 for none.
-    int picture() const { return picture_; }
+    // Which of the twelve card pictures is on show.
+    CardPicture picture() const { return picture_; }
     // Label1 to Label10 by their number; index 0 is unused.
     const std::string& label(int number) const { return labels_[static_cast<std::size_t>(number)]; }
 
@@ -62,17 +68,24 @@ public:
 
 private:
     void showOwnCellButtons(bool narrow);
+    // A button acts only while what the card was shown for still holds: its player is in
+    // the game, the cell has the owner it had, and for a purchase or a rent the player's
+    // token stands on the cell. Otherwise the click only closes the card.
+    bool stillHolds(bool onTheCell) const;
+    template <class Action>
+    void act(bool onTheCell, Action action);
     void hideAndEnableMain();
     void finishCard();
 
     Windows& windows_;
     player* cardPlayer_ = nullptr;
+    const player* ownerWhenShown_ = nullptr;
     Integer cardId_ = 0;
     std::string cardName_;
     std::string cardOwner_;
     Integer cardOpt_ = 0;
 
-    int picture_ = -1;
+    CardPicture picture_ = CardPicture::None;
     std::array<std::string, 11> labels_{"", "Street Name", "$ Value", "Status"};
     Control buy_{true, true, "Buy It!"};
     Control forget_{true, true, "Forget It!"};

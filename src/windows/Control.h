@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace gw {
 
@@ -16,6 +17,9 @@ struct Control {
     void enable(bool on = true) { enabled = on; }
     bool isOpen() const { return visible && enabled; }
 };
+
+// Visits one control of a window by its name: "rollDice", "Ok(1)", "PlayerName(3)".
+using ControlVisitor = std::function<void(std::string_view name, const Control&)>;
 
 // What every window model shares: whether it is up, and a hook that lets a view
 // repaint after a change. Headless, the hook is empty.

@@ -22,4 +22,9 @@ void JFLCardWindow::Ok_Click() {
     setVisible(false);
 }
 
+void JFLCardWindow::forEachControl(const ControlVisitor& fn) const {
+    fn("Label2", Control{true, true, label2_});
+    fn("Ok", ok_);
+}
+
 }  // namespace gw

@@ -18,6 +18,11 @@ public:
     bool computerThink();
     void Ok_Click();
 
+    // Every control by its name, as a view binds them.
+    void forEachControl(const ControlVisitor& fn) const;
+    // The window's close box: the main window comes back.
+    void close() { Ok_Click(); }
+
     // The card's text.
     const std::string& Label2() const { return label2_; }
     const Control& Ok() const { return ok_; }

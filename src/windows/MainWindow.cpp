@@ -21,9 +21,19 @@ int tokenNumber(const player& p) {
 
 }  // namespace
 
-MainWindow::MainWindow(Sound& sound, Delay& delay) : sound_(sound), delay_(delay) {
+MainWindowShown::MainWindowShown() {
     for (auto& cell : squares_) cell.fill(kNoPicture);
+    tokenTags_.fill(kNoPicture);
     ownedBy_.fill(kNoPicture);
+}
+
+MainWindow::MainWindow(Sound& sound, Delay& delay) : sound_(sound), delay_(delay) {}
+
+// The window's controls go back to their stored state, and so does the players' volume.
+void MainWindow::unload() {
+    static_cast<MainWindowShown&>(*this) = MainWindowShown{};
+    Enable_Click();
+    setVisible(false);
 }
 
 void MainWindow::init(Board& bBoard1) {
@@ -42,10 +52,10 @@ void MainWindow::startGame() {
     UpdatePlayers();
     ShowPlayers();
     if (current().isComputer2()) {
-        UpdateTurnPlaying(2);
+        UpdateTurnPlaying(TurnButtons::Neither);
         board_->playTurn();
     } else {
-        UpdateTurnPlaying(0);
+        UpdateTurnPlaying(TurnButtons::Roll);
     }
 }
 
@@ -54,7 +64,7 @@ void MainWindow::showInfo(std::string_view msg) {
     changed();
 }
 
-void MainWindow::UpdateTurnPlaying(Integer opt) {
+void MainWindow::UpdateTurnPlaying(TurnButtons opt) {
     const player& p = current();
     playToken_ = panel_[static_cast<std::size_t>(p.getId())].token;
     label2_ = p.getName();
@@ -63,20 +73,23 @@ void MainWindow::UpdateTurnPlaying(Integer opt) {
     endTurn_.show();
     declareBank_.hide();
     switch (opt) {
-        case 0:
+        case TurnButtons::Roll:
             rollDice_.enable();
             endTurn_.enable(false);
             break;
-        case 1:
+        case TurnButtons::Finish:
             rollDice_.enable(false);
             endTurn_.enable();
             break;
-        case 2:
+        case TurnButtons::Neither:
             rollDice_.enable(false);
             endTurn_.enable(false);
             break;
-        default:
-            break;
+    }
+    // A human whose turn it is to throw or to finish while a debt stands is offered only
+    // Declare Bankruptcy, whatever made the debt: a card, a rent outside his turn.
+    if (opt != TurnButtons::Neither && !p.isComputer2() && p.getBalance() < 0) {
+        applyLayout(Layout::InDebtHuman);
     }
     changed();
 }
@@ -102,7 +115,7 @@ void MainWindow::MoveToken(Integer id, Integer from, Integer to) {
         delay_.wait(kStepTicks);
         bigTokens_[static_cast<std::size_t>(id)].cell = k;
         changed();
-        sound_.play(MediaPlayer::Main1, "tokenmove.wav");
+        sound_.play(MediaPlayer::Main1, SoundEffect::TokenMove);
     }
 }
 
@@ -133,7 +146,7 @@ void MainWindow::showCell(const OnCell& onCell, Integer cellId) {
     if (cellId == kPoliceCell || cellId < 0 || cellId >= kCellCount) return;
     auto& squares = squares_[static_cast<std::size_t>(cellId)];
     std::size_t s = 0;
-    for (std::size_t i = 0; i < 6; ++i) {
+    for (std::size_t i = 0; i < onCell.size(); ++i) {
         if (onCell[i]) squares[s++] = tokenTags_[i];
     }
     while (s < squares.size()) squares[s++] = kNoPicture;
@@ -162,7 +175,7 @@ void MainWindow::showMort(Integer cellId) {
     const bool mortgaged = prop->getProp().isMortgaged2();
     mortgaged_[static_cast<std::size_t>(cellId)] = mortgaged;
     changed();
-    if (mortgaged) sound_.play(MediaPlayer::Main1, "mortaged.wav");
+    if (mortgaged) sound_.play(MediaPlayer::Main1, SoundEffect::Mortgaged);
 }
 
 void MainWindow::showBankRupt() {
@@ -170,18 +183,22 @@ void MainWindow::showBankRupt() {
     bigTokens_[static_cast<std::size_t>(p.getId())].visible = false;
     panel_[static_cast<std::size_t>(p.getId())].balance.caption = "Bankrupt";
     changed();
-    sound_.play(MediaPlayer::Main1, "Bankrupt.wav");
+    sound_.play(MediaPlayer::Main1, SoundEffect::Bankrupt);
 }
 
+// The ways out of jail are offered only before the throw of the turn: to a player who
+// went to jail in this turn they would give a further throw.
 void MainWindow::showInJail() {
     const player& p = current();
     pay50Rent_.hide();
     useJFLCard_.hide();
     if (p.IsInJail()) {
         showInfo(p.getName() + ", you are in jail. Please roll a double or pay 50 to get out!");
-        pay50Rent_.show();
-        pay50Rent_.enable(p.getBalance() >= kJailFee);
-        if (p.hasGoJFC()) useJFLCard_.show();
+        if (rollDice_.isOpen()) {
+            pay50Rent_.show();
+            pay50Rent_.enable(p.getBalance() >= kJailFee);
+            if (p.hasGoJFC()) useJFLCard_.show();
+        }
     }
     changed();
 }
@@ -238,6 +255,7 @@ void MainWindow::setEnabled(bool enabled) {
 void MainWindow::showGameEnd() {
     gameEndShown_ = true;
     setVisible(false);
+    if (onGameEnd_) onGameEnd_();
 }
 
 bool MainWindow::turnButtonsLive() const {
@@ -248,16 +266,16 @@ bool MainWindow::turnButtonsLive() const {
 // A click that arrives inside a wait of the turn it belongs to, or in a computer's turn,
 // is dropped: one roll for one turn.
 template <class Action>
-void MainWindow::runTurnButton(Action action) {
-    if (!turnButtonsLive()) return;
+void MainWindow::runTurnButton(const Control& button, Action action) {
+    if (!button.isOpen() || !turnButtonsLive()) return;
     turnButtonBusy_ = true;
     action();
     turnButtonBusy_ = false;
 }
 
 void MainWindow::rollDice_Click() {
-    runTurnButton([this] {
-        sound_.play(MediaPlayer::Main1, "DICEROLL.wav");
+    runTurnButton(rollDice_, [this] {
+        sound_.play(MediaPlayer::Main1, SoundEffect::DiceRoll);
         pay50Rent_.hide();
         useJFLCard_.hide();
         changed();
@@ -266,7 +284,7 @@ void MainWindow::rollDice_Click() {
 }
 
 void MainWindow::pay50Rent_Click() {
-    runTurnButton([this] {
+    runTurnButton(pay50Rent_, [this] {
         current().pay50GOJ();
         showInJail();
         board_->playTurn();
@@ -274,7 +292,7 @@ void MainWindow::pay50Rent_Click() {
 }
 
 void MainWindow::useJFLCard_Click() {
-    runTurnButton([this] {
+    runTurnButton(useJFLCard_, [this] {
         current().useGOJFC();
         showInJail();
         board_->playTurn();
@@ -282,14 +300,14 @@ void MainWindow::useJFLCard_Click() {
 }
 
 void MainWindow::endTurn_Click() {
-    runTurnButton([this] {
+    runTurnButton(endTurn_, [this] {
         board_->endTurn();
         showInfo(label2_ + ", its your turn to play.");
     });
 }
 
 void MainWindow::declareBank_Click() {
-    runTurnButton([this] { current().declareBankruptcy(); });
+    runTurnButton(declareBank_, [this] { current().declareBankruptcy(); });
 }
 
 void MainWindow::cell_Click(Integer Index) {
@@ -299,7 +317,8 @@ void MainWindow::cell_Click(Integer Index) {
     PropertyCell* prop = board_->propertyAt(Index);
     if (prop == nullptr) return;
     Integer opt = 0;
-    if (p.getPosition() == Index) {
+    // During the walk the token is not yet on the cell it walks to.
+    if (p.getPosition() == Index && !p.isWalking()) {
         if (!p.getDidAction()) {
             prop->doAction(p);
         } else {
@@ -327,6 +346,22 @@ void MainWindow::Exit_Click() const {
 
 void MainWindow::About_Click() const {
     if (onAbout_) onAbout_();
+}
+
+void MainWindow::forEachControl(const ControlVisitor& fn) const {
+    fn("rollDice", rollDice_);
+    fn("declareBank", declareBank_);
+    fn("endTurn", endTurn_);
+    fn("pay50Rent", pay50Rent_);
+    fn("useJFLCard", useJFLCard_);
+    fn("Label1", Control{true, true, label1_});
+    fn("Label2", Control{true, true, label2_});
+    for (int i = 0; i < kMaxPlayers; ++i) {
+        std::string index = std::to_string(i);
+        index.insert(0, 1, '(').push_back(')');
+        fn("PlayerName" + index, panel_[static_cast<std::size_t>(i)].name);
+        fn("Balance" + index, panel_[static_cast<std::size_t>(i)].balance);
+    }
 }
 
 }  // namespace gw

@@ -21,8 +21,11 @@ class player;
 
 constexpr int kNoPicture = -1;
 
-class MainWindow final : public MainWindowPort, public WindowModel {
-public:
+// What the main window shows, apart from its links: an unload drops all of it and a
+// load brings back these values.
+struct MainWindowShown {
+    MainWindowShown();
+
     // One row of the players' panel.
     struct PanelRow {
         Control name{false, true, ""};
@@ -36,6 +39,35 @@ public:
         Integer cell = 0;
     };
 
+    bool enabled_ = true;
+    bool gameEndShown_ = false;
+    bool askingDebtTests_ = false;
+    bool turnButtonBusy_ = false;
+    std::string label1_ = "Let the game begin!";
+    std::string label2_ = "Label2";
+    int playToken_ = kNoPicture;
+    int turnBar_ = kNoPicture;
+    Control rollDice_{true, true, "Roll Dice"};
+    Control declareBank_{false, true, "Declare Bankruptcy"};
+    Control endTurn_{true, true, "End Turn"};
+    Control pay50Rent_{false, true, "Pay $50 to get out of jail "};
+    Control useJFLCard_{false, true, "Use Your JFL get out of jail card"};
+    std::array<PanelRow, kMaxPlayers> panel_{};
+    std::array<int, kMaxPlayers> tokenTags_{};
+    std::array<BigToken, kMaxPlayers> bigTokens_{};
+    std::array<std::array<int, kMaxPlayers>, kCellCount> squares_{};
+    std::array<int, kCellCount> hotels_{};
+    std::array<bool, kCellCount> mortgaged_{};
+    std::array<int, kCellCount> ownedBy_{};
+    Integer die1_ = 0;
+    Integer die2_ = 0;
+};
+
+class MainWindow final : public MainWindowPort, public WindowModel, private MainWindowShown {
+public:
+    using PanelRow = MainWindowShown::PanelRow;
+    using BigToken = MainWindowShown::BigToken;
+
     MainWindow(Sound& sound, Delay& delay);
 
     // Set-up
@@ -45,7 +77,7 @@ public:
 
     // What the rules call
     void showInfo(std::string_view msg) override;
-    void UpdateTurnPlaying(Integer opt) override;
+    void UpdateTurnPlaying(TurnButtons opt) override;
     void Showdice(Integer die1, Integer die2) override;
     void MoveToken(Integer id, Integer from, Integer to) override;
     void UpdatePlayers() override;
@@ -73,8 +105,18 @@ public:
     void setOnAbout(std::function<void()> hook) { onAbout_ = std::move(hook); }
     void Exit_Click() const;
     void About_Click() const;
+    // The game is over: the end window takes over.
+    void setOnGameEnd(std::function<void()> hook) { onGameEnd_ = std::move(hook); }
+    void show() {
+        gameEndShown_ = false;
+        setVisible(true);
+    }
+    // Drops what the window shows, back to its state at load; the board link stays.
+    void unload();
 
     // State for the view
+    // Every control by its name, as a view binds them.
+    void forEachControl(const ControlVisitor& fn) const;
     bool isEnabled() const { return enabled_; }
     bool gameEndShown() const { return gameEndShown_; }
     const std::string& Label1() const { return label1_; }
@@ -106,37 +148,15 @@ private:
     // A turn button acts only for a human whose turn it is, and not inside another one.
     bool turnButtonsLive() const;
     template <class Action>
-    void runTurnButton(Action action);
+    void runTurnButton(const Control& button, Action action);
 
     Sound& sound_;
     Delay& delay_;
     Board* board_ = nullptr;
 
-    bool enabled_ = true;
-    bool gameEndShown_ = false;
-    bool askingDebtTests_ = false;
-    bool turnButtonBusy_ = false;
-    std::string label1_ = "Let the game begin!";
-    std::string label2_ = "Label2";
-    int playToken_ = kNoPicture;
-    int turnBar_ = kNoPicture;
-    Control rollDice_{true, true, "Roll Dice"};
-    Control declareBank_{false, true, "Declare Bankruptcy"};
-    Control endTurn_{true, true, "End Turn"};
-    Control pay50Rent_{false, true, "Pay $50 to get out of jail "};
-    Control useJFLCard_{false, true, "Use Your JFL get out of jail card"};
-    std::array<PanelRow, 6> panel_{};
-    std::array<int, 6> tokenTags_{kNoPicture, kNoPicture, kNoPicture,
-                                  kNoPicture, kNoPicture, kNoPicture};
-    std::array<BigToken, 6> bigTokens_{};
-    std::array<std::array<int, 6>, 40> squares_{};
-    std::array<int, 40> hotels_{};
-    std::array<bool, 40> mortgaged_{};
-    std::array<int, 40> ownedBy_{};
-    Integer die1_ = 0;
-    Integer die2_ = 0;
     std::function<void()> onExit_;
     std::function<void()> onAbout_;
+    std::function<void()> onGameEnd_;
 };
 
 }  // namespace gw

@@ -6,11 +6,13 @@
 #include <string_view>
 
 #include "game/Integer.h"
+#include "game/Limits.h"
+#include "windows/WindowCodes.h"
 
 namespace gw {
 
-// Who stands on one cell, by player id; the seventh entry is never looked at.
-using OnCell = std::array<bool, 7>;
+// Who stands on one cell, by player id.
+using OnCell = std::array<bool, kMaxPlayers>;
 
 class MainWindowPort {
 public:
@@ -18,8 +20,8 @@ public:
 
     // The one message line now reads msg.
     virtual void showInfo(std::string_view msg) = 0;
-    // Whose turn it is; Roll Dice and End Turn by opt: 0 roll, 1 finish, 2 neither.
-    virtual void UpdateTurnPlaying(Integer opt) = 0;
+    // Whose turn it is, and which of Roll Dice and End Turn is open.
+    virtual void UpdateTurnPlaying(TurnButtons opt) = 0;
     // Animates a roll, then leaves the two faces in view.
     virtual void Showdice(Integer die1, Integer die2) = 0;
     // Walks the large token from one cell up to another, returning when it has arrived.
@@ -43,7 +45,7 @@ public:
 class NullMainWindow final : public MainWindowPort {
 public:
     void showInfo(std::string_view) override {}
-    void UpdateTurnPlaying(Integer) override {}
+    void UpdateTurnPlaying(TurnButtons) override {}
     void Showdice(Integer, Integer) override {}
     void MoveToken(Integer, Integer, Integer) override {}
     void UpdatePlayers() override {}

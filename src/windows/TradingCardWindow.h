@@ -8,6 +8,7 @@
 
 #include "game/Integer.h"
 #include "windows/Control.h"
+#include "windows/WindowCodes.h"
 
 namespace gw {
 
@@ -45,6 +46,12 @@ public:
     // The typed sum as a number; nothing for an empty box or one above 32767.
     std::optional<Integer> readAmount() const;
 
+    // Every control by its name, as a view binds them.
+    void forEachControl(const ControlVisitor& fn) const;
+    // The window's close box, and a new game: the card goes and forgets its players.
+    void close();
+    void forgetPlayers();
+
     player* tradeBuyer() const { return tradeBuyer_; }
     player* tradeOwner() const { return tradeOwner_; }
     Integer tradeId() const { return tradeId_; }
@@ -52,8 +59,7 @@ public:
     const std::string& tradeStreet() const { return tradeStreet_; }
     const std::string& tradeOwnerName() const { return tradeOwnerName_; }
 
-    // 0 the owner's face, 1 the buyer's face.
-    int face() const { return face_; }
+    TradeFace face() const { return face_; }
     const std::string& label(int number) const { return labels_[static_cast<std::size_t>(number)]; }
     const Control& Label4() const { return label4_; }
     const Control& doneDeal() const { return doneDeal_; }
@@ -63,16 +69,24 @@ public:
 
 private:
     void hide() { setVisible(false); }
+    // The offer still stands: both parties are in the game and the cell is still the
+    // owner's. Otherwise a click only closes the card.
+    bool stillHolds() const;
+    // A sum that no balance can take: the seller's would pass 32767 or the buyer's -32768.
+    bool sumOutOfBounds(Integer sum) const;
+    // Reads the box for an offer: the sum, or nothing with the reason on the message line.
+    std::optional<Integer> offeredSum();
 
     Windows& windows_;
     player* tradeBuyer_ = nullptr;
     player* tradeOwner_ = nullptr;
+    const player* ownerWhenProposed_ = nullptr;
     Integer tradeId_ = 0;
     std::string tradeStreet_;
     std::string tradeOwnerName_;
     Integer tradeAmount_ = 0;
 
-    int face_ = 1;
+    TradeFace face_ = TradeFace::Buyer;
     std::string amount_;
     bool amountSelected_ = false;
     std::array<std::string, 4> labels_{};

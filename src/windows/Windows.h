@@ -25,6 +25,21 @@ public:
     Windows(const Windows&) = delete;
     Windows& operator=(const Windows&) = delete;
 
+    // A new game: the cards go and forget the players of the last one.
+    void forgetPlayers() {
+        cellInfo.forgetPlayers();
+        trading.forgetPlayers();
+        jflCard.close();
+        taxCard.forgetPlayers();
+    }
+    // One hook for the four cards; see GameRun::setOnChanged.
+    void setOnChanged(const std::function<void()>& hook) {
+        cellInfo.setOnChanged(hook);
+        trading.setOnChanged(hook);
+        jflCard.setOnChanged(hook);
+        taxCard.setOnChanged(hook);
+    }
+
     MainWindowPort& main;
     Sound& sound;
     Delay& delay;

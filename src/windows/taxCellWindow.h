@@ -6,6 +6,7 @@
 
 #include "game/Integer.h"
 #include "windows/Control.h"
+#include "windows/WindowCodes.h"
 
 namespace gw {
 
@@ -20,8 +21,13 @@ public:
     bool computerThink();
     void payRent_Click();
 
-    // 0 the income tax picture, 1 the luxury tax picture, -1 none.
-    int picture() const { return picture_; }
+    // Every control by its name, as a view binds them.
+    void forEachControl(const ControlVisitor& fn) const;
+    // The window's close box: the card goes, the main window comes back; the tax stays due.
+    void close();
+    void forgetPlayers();
+
+    TaxPicture picture() const { return picture_; }
     const std::string& Label1() const { return label1_; }
     const Control& payRent() const { return payRent_; }
     Integer taxId() const { return taxId_; }
@@ -31,7 +37,7 @@ private:
     Windows& windows_;
     Integer taxId_ = 0;
     player* taxPlayer_ = nullptr;
-    int picture_ = -1;
+    TaxPicture picture_ = TaxPicture::None;
     std::string label1_ = "Label1";
     Control payRent_{true, true, "Pay Tax"};
 };

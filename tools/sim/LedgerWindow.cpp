@@ -1,5 +1,6 @@
 #include "LedgerWindow.h"
 
+#include "Tariff.h"
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
 
@@ -61,12 +62,38 @@ void LedgerWindow::describeStand(Event& e) const {
     } else if (const PropertyCell* prop = here.asProperty()) {
         const player* owner = prop->getProp().getOwners();
         if (owner != nullptr && owner != &p && !prop->getProp().isMortgaged2()) {
-            e.rentDue = prop->getRent();
             e.rentOwner = owner->getId();
+            e.hotels = prop->getHotelCount();
         }
     } else if (here.isTax()) {
-        e.assets = p.calcAssets();
+        e.worth = worthOf(p);
     }
+}
+
+// The balance and what the cells would fetch: a mortgaged cell its mortgage value, any
+// other its price and the cost of its hotels, all from the ledger's own tables.
+long long LedgerWindow::worthOf(const player& p) const {
+    long long worth = p.getBalance();
+    for (Integer c = 0; c < kCellCount; ++c) {
+        const PropertyCell* prop = board_->propertyAt(c);
+        if (prop == nullptr || prop->getProp().getOwners() != &p) continue;
+        const CellTariff& t = tariffOf(c);
+        worth += prop->getProp().isMortgaged2()
+                     ? t.mortgage
+                     : t.price + static_cast<long long>(prop->getHotelCount()) * t.hotelCost;
+    }
+    return worth;
+}
+
+void LedgerWindow::Showdice(Integer die1, Integer die2) {
+    if (!record_ || board_ == nullptr) return;
+    Event e;
+    e.kind = Kind::Dice;
+    e.current = board_->getCurrPlayerIndex();
+    e.who = e.current;
+    e.from = die1;
+    e.to = die2;
+    events_.push_back(e);
 }
 
 void LedgerWindow::MoveToken(Integer id, Integer from, Integer to) {
@@ -77,6 +104,11 @@ void LedgerWindow::MoveToken(Integer id, Integer from, Integer to) {
     e.who = id;
     e.from = from;
     e.to = to;
+    if (from >= 0 && from < kCellCount && board_->getCell(from)->kind() == CellKind::JFL) {
+        const JFLDeck& deck = board_->getJFLDeck();
+        e.cardSlot = static_cast<Integer>((deck.getCursor() + kDeckSize - 1) % kDeckSize);
+        e.card = deck.cardAt(e.cardSlot).getType();
+    }
     events_.push_back(e);
 }
 
@@ -130,6 +162,11 @@ void LedgerWindow::showBankRupt() {
     Event e;
     e.kind = Kind::Bankrupt;
     e.current = board_->getCurrPlayerIndex();
+    // Shown before the bankrupt's token leaves the cell that it could not pay for.
+    e.cell = board_->getPlayer(static_cast<Integer>(e.current))->getPosition();
+    const PropertyCell* prop = board_->propertyAt(e.cell);
+    const player* owner = prop != nullptr ? prop->getProp().getOwners() : nullptr;
+    e.owner = owner != nullptr ? owner->getId() : -1;
     events_.push_back(e);
 }
 

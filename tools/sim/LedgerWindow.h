@@ -1,5 +1,5 @@
 // A main window that shows nothing and writes down what the rules tell it: every
-// movement of money, every walk of a token and every change shown on a cell.
+// movement of money, every throw, every walk of a token and every change shown on a cell.
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@ namespace gw::sim {
 
 // One thing the main window was told during a turn.
 struct Event {
-    enum class Kind : std::uint8_t { Money, Move, Owner, Hotel, Mort, Bankrupt };
+    enum class Kind : std::uint8_t { Money, Move, Dice, Owner, Hotel, Mort, Bankrupt };
 
     Kind kind = Kind::Money;
     int current = 0;  // slot of the player whose turn it was
@@ -28,15 +28,16 @@ struct Event {
     bool inJail = false;
     Integer card = -1;  // on a card cell: the type of the card drawn last, and its slot
     Integer cardSlot = -1;
-    Integer rentDue = 0;  // on another player's unmortgaged cell: its rent now
-    int rentOwner = -1;
-    Integer assets = 0;  // on a tax cell: the current player's worth
+    int rentOwner = -1;   // on another player's unmortgaged cell: its owner; hotels below
+    long long worth = 0;  // on a tax cell: the current player's worth, by the ledger's tables
 
-    // Move: the token of `who` walked from `from` to `to`.
+    // Move: the token of `who` walked from `from` to `to`; a walk that starts on a card
+    // cell notes the card drawn last in `card`. Dice: `from` and `to` are the two faces.
     Integer from = 0;
     Integer to = 0;
 
     // Owner, Hotel and Mort: the cell as it stood when shown, and as it was shown before.
+    // Bankrupt: `cell` is where the bankrupt stood and `owner` who held that cell then.
     Integer cell = 0;
     int owner = -1;
     bool mortgaged = false;
@@ -72,8 +73,8 @@ public:
     int gameEnds() const { return gameEnds_; }
 
     void showInfo(std::string_view) override {}
-    void UpdateTurnPlaying(Integer) override {}
-    void Showdice(Integer, Integer) override {}
+    void UpdateTurnPlaying(TurnButtons) override {}
+    void Showdice(Integer die1, Integer die2) override;
     void MoveToken(Integer id, Integer from, Integer to) override;
     void UpdatePlayers() override;
     void showCell(const OnCell&, Integer) override {}
@@ -89,6 +90,7 @@ public:
 private:
     Event mark(Event::Kind kind, Integer cellId) const;
     void describeStand(Event& e) const;
+    long long worthOf(const player& p) const;
 
     bool record_;
     Board* board_ = nullptr;

@@ -1,13 +1,16 @@
+// One headless game of computer players, and runs of them spread over threads.
 #include "Simulation.h"
 
 #include <algorithm>
 #include <atomic>
-#include <cmath>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <thread>
+#include <vector>
 
 #include "Checker.h"
+#include "Signature.h"
 #include "game/Board.h"
 #include "windows/Windows.h"
 
@@ -19,26 +22,14 @@ std::string located(const GameConfig& config, int turn, const std::string& what)
            ", turn " + std::to_string(turn) + ": " + what;
 }
 
-// The seat of each slot of the order of play, found by the players' names.
-std::vector<int> seatsBySlot(const Board& board, int players) {
-    std::vector<int> seats(static_cast<std::size_t>(players), -1);
-    for (int slot = 0; slot < players; ++slot) {
-        const std::string& name = board.getPlayer(static_cast<Integer>(slot))->getName();
-        for (int seat = 0; seat < players; ++seat) {
-            if (name == seatName(seat)) seats[static_cast<std::size_t>(slot)] = seat;
-        }
-    }
-    return seats;
-}
-
+// The seats are the slots of the order of play that the game drew: slot 0 moved first.
 void countOutcome(const Board& board, int players, GameResult& result) {
-    const std::vector<int> seats = seatsBySlot(board, players);
     for (int slot = 0; slot < players; ++slot) {
         const player& p = *board.getPlayer(static_cast<Integer>(slot));
         if (p.isBankrupt2()) {
             ++result.bankruptcies;
         } else if (result.finished) {
-            result.winnerSeat = seats[static_cast<std::size_t>(slot)];
+            result.winnerSeat = slot;
         }
     }
 }
@@ -65,9 +56,11 @@ GameResult playGame(const GameConfig& config) {
     Board board(windows, std::make_unique<SeededRandom>(gameSeed(config.seed, config.game)));
     board.init();
     const int players = std::clamp(config.players, 2, static_cast<int>(kMaxPlayers));
+    GameSetup setup;
     for (int seat = 0; seat < players; ++seat) {
-        board.addPlayer(seatName(seat), true, static_cast<Integer>(seat));
+        setup.add(seatName(seat), true, static_cast<Integer>(seat));
     }
+    board.addPlayers(setup);
     board.shufflePlayers();
     window.attach(board);
     Checker checker(board, window);
@@ -88,7 +81,7 @@ GameResult playGame(const GameConfig& config) {
         played = board.getCurrPlayerIndex();
         return result.turns < config.maxTurns;
     });
-    windows.main.UpdateTurnPlaying(2);
+    windows.main.UpdateTurnPlaying(gw::TurnButtons::Neither);
     board.playTurn();
     board.setOnTurnPlayed({});
 
@@ -108,63 +101,31 @@ GameResult playGame(const GameConfig& config) {
     result.selfTrades = window.selfTrades();
     result.hotelsBuilt = window.hotelsBuilt();
     result.lostAtBound = checker.lostAtBound();
+    result.endState = stateHash(board);
     return result;
 }
 
-std::vector<GameResult> playGames(const RunConfig& config) {
-    std::vector<GameResult> results(static_cast<std::size_t>(std::max(config.games, 0)));
-    std::atomic<int> next{0};
-    // Each game writes its own slot only, so the results do not depend on the jobs.
-    auto work = [&] {
-        for (int g = next++; g < config.games; g = next++) {
-            GameConfig game{config.seed, g, config.players, config.maxTurns, config.check};
-            results[static_cast<std::size_t>(g)] = playGame(game);
-        }
-    };
-    {
-        std::vector<std::jthread> jobs;
-        for (int j = 1; j < std::max(config.jobs, 1); ++j) jobs.emplace_back(work);
-        work();
-    }
-    return results;
+void onThreads(int jobs, const std::function<void()>& work) {
+    std::vector<std::jthread> threads;
+    for (int j = 1; j < std::max(jobs, 1); ++j) threads.emplace_back(work);
+    work();
 }
 
-Summary summarize(const std::vector<GameResult>& results, int players) {
-    Summary s;
-    s.games = static_cast<int>(results.size());
-    s.winsBySeat.assign(static_cast<std::size_t>(players), 0);
-    std::vector<int> turns;
-    turns.reserve(results.size());
-    for (const GameResult& r : results) {
-        turns.push_back(r.turns);
-        s.turns += r.turns;
-        if (!r.violation.empty()) {
-            ++s.violations;
-        } else if (r.finished) {
-            ++s.finished;
-        } else if (r.stalled) {
-            ++s.stalled;
-        } else {
-            ++s.capped;
+Summary playGames(const RunConfig& config) {
+    Summary total(config.players);
+    std::mutex totalLock;
+    std::atomic<int> next{0};
+    // Each thread sums up its own games and adds them in once at the end; every count
+    // is a sum, so the summary does not depend on which thread played which game.
+    onThreads(config.jobs, [&] {
+        Summary part(config.players);
+        for (int g = next++; g < config.games; g = next++) {
+            part.add(playGame({config.seed, g, config.players, config.maxTurns, config.check}));
         }
-        if (r.winnerSeat >= 0 && r.winnerSeat < players) {
-            ++s.winsBySeat[static_cast<std::size_t>(r.winnerSeat)];
-        }
-        s.bankruptcies += r.bankruptcies;
-        s.trades += r.trades;
-        s.selfTrades += r.selfTrades;
-        s.hotelsBuilt += r.hotelsBuilt;
-        s.lostAtBound += r.lostAtBound;
-    }
-    if (turns.empty()) return s;
-    std::sort(turns.begin(), turns.end());
-    const std::size_t n = turns.size();
-    s.meanTurns = static_cast<double>(s.turns) / static_cast<double>(n);
-    s.medianTurns = n % 2 == 1 ? turns[n / 2] : (turns[n / 2 - 1] + turns[n / 2]) / 2.0;
-    // The nearest rank: the smallest count that at least 95 games in 100 do not exceed.
-    const auto rank = static_cast<std::size_t>(std::ceil(0.95 * static_cast<double>(n)));
-    s.p95Turns = turns[std::max<std::size_t>(rank, 1) - 1];
-    return s;
+        const std::lock_guard lock(totalLock);
+        total.merge(part);
+    });
+    return total;
 }
 
 }  // namespace gw::sim

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
-#include <vector>
+
+#include "Summary.h"
 
 namespace gw::sim {
 
@@ -21,13 +23,14 @@ struct GameResult {
     int turns = 0;
     bool finished = false;  // one player left
     bool stalled = false;   // the turns stopped by themselves with several players left
-    int winnerSeat = -1;    // the winner's place in the order of seating, from 0
+    int winnerSeat = -1;    // the winner's place in the order of play: 0 moved first
     int bankruptcies = 0;
     int trades = 0;      // sales between players that were carried out
     int selfTrades = 0;  // of those, sales by a buyer who already owned the cell
     int hotelsBuilt = 0;
-    long long lostAtBound = 0;  // money that a balance stuck at 32767 did not take in
-    std::string violation;      // what broke, with the seed, game and turn; empty if nothing
+    long long lostAtBound = 0;   // money that a balance stuck at 32767 did not take in
+    std::string violation;       // what broke, with the seed, game and turn; empty if nothing
+    std::uint64_t endState = 0;  // the hash of the board where the game ended
 };
 
 struct RunConfig {
@@ -39,33 +42,16 @@ struct RunConfig {
     bool check = false;
 };
 
-// Each game counts as exactly one of finished, capped, stalled or stopped by a fault.
-struct Summary {
-    int games = 0;
-    int finished = 0;
-    int capped = 0;
-    int stalled = 0;
-    long long turns = 0;
-    double meanTurns = 0;
-    double medianTurns = 0;
-    int p95Turns = 0;
-    std::vector<int> winsBySeat;
-    long long bankruptcies = 0;
-    long long trades = 0;
-    long long selfTrades = 0;
-    long long hotelsBuilt = 0;
-    long long lostAtBound = 0;
-    int violations = 0;
-};
-
 // The seed of game `game` of a run with seed `seed`.
 std::uint64_t gameSeed(std::uint64_t seed, int game);
 // The name of the computer player in seat `seat`.
 std::string seatName(int seat);
 
 GameResult playGame(const GameConfig& config);
-// All games of a run, in the order of their index whatever the number of jobs.
-std::vector<GameResult> playGames(const RunConfig& config);
-Summary summarize(const std::vector<GameResult>& results, int players);
+// Plays the games of a run and sums them up as they end; nothing is kept of a game but
+// what the summary counts, so a run of any length takes the same memory.
+Summary playGames(const RunConfig& config);
+// Runs `work` on `jobs` threads at once, this one included, and waits for them all.
+void onThreads(int jobs, const std::function<void()>& work);
 
 }  // namespace gw::sim

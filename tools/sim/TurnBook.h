@@ -1,5 +1,5 @@
 // The ledger of one turn: every movement of money explained as a payment that the rules
-// allow, or named as the fault it is.
+// allow, at an amount from the ledger's own tables, or named as the fault it is.
 #pragma once
 
 #include <optional>
@@ -25,18 +25,26 @@ public:
 
 private:
     const Event* at(std::size_t i) const { return i < ev_.size() ? &ev_[i] : nullptr; }
-    PropertyCell& property(Integer cell) const { return *board_.getCell(cell)->asProperty(); }
-    // Each answers how many events it explains from i on, 0 when they are not its kind.
+    // Each answers how many events it explains from i on, 0 when they are not its kind;
+    // one that recognises its kind at a wrong amount or for a wrong player says so in fault_.
     std::size_t sale(std::size_t i);
     std::size_t rent(std::size_t i);
     std::size_t cellDeal(std::size_t i);
+    std::size_t goMoney(std::size_t i);
     std::size_t bankPayment(std::size_t i);
-    std::size_t bankruptcy(std::size_t i) const;
-    bool isOffer(Integer cell, int amount) const;
+    std::size_t marks(std::size_t i);
+    std::size_t bankruptcy(std::size_t i, std::size_t end);
+    // Whether the walk whose first stroke is ev_[first] and last stroke `last` pays Go money.
+    bool walkPaysGo(std::size_t first, const Event& last) const;
     bool goesBackToBank(std::size_t i, Integer cell) const;
+    // The computer's balance tests, checked on the first payment that each one lets through.
+    void computerTest(const Event& e, bool& seen, bool passes, const std::string& what);
     std::size_t fromBank(const Event& e, int amount);
     std::size_t toBank(int amount);
     void received(const Event& e, int amount) { lost_ += amount - e.delta; }
+    void fail(std::string what);
+    std::string who(int slot) const;
+    std::string cell(Integer c) const;
     std::string describe(const Event& e) const;
     std::string unexplained(const Event& e) const;
 
@@ -45,12 +53,16 @@ private:
     int played_;
     long long bankNet_ = 0;
     long long lost_ = 0;
+    std::optional<std::string> fault_;
     // Payments that a computer's turn makes once at most.
     int rents_ = 0;
     int taxes_ = 0;
     int purchases_ = 0;
     int jailFees_ = 0;
     std::vector<Integer> cardsPaid_;
+    bool released_ = false;
+    bool bought_ = false;
+    bool built_ = false;
 };
 
 }  // namespace gw::sim

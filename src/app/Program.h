@@ -1,0 +1,60 @@
+// The views of one run, wired to its models: every change marks them for one repaint from
+// the event loop, clicks pass through one dispatch, and a run that winds down cuts short
+// the waits still running.
+#pragma once
+
+#include <memory>
+
+#include "view/CardViews.h"
+#include "view/Dispatch.h"
+#include "view/MainWindowView.h"
+#include "view/StartEndViews.h"
+
+namespace gw {
+class GameRun;
+}
+
+namespace gw::app {
+
+class QtDelay;
+
+class Program {
+public:
+    Program(GameRun& run, QtDelay* delay);
+    ~Program();
+
+    // Brings every window to its model at once (the event loop does it after changes).
+    void refreshAll();
+    // Runs after each refresh, e.g. to watch for the end of a game.
+    void setOnRefreshed(std::function<void()> hook) { onRefreshed_ = std::move(hook); }
+
+    view::Dispatch& dispatch() { return dispatch_; }
+    view::MainWindowView& mainView() { return *main_; }
+    view::GameStartView& startView() { return *start_; }
+    view::CellInfoView& propertyCard() { return *cellInfo_; }
+    view::TradingCardView& tradingCard() { return *trading_; }
+    view::JFLCardView& jflCard() { return *jfl_; }
+    view::TaxCardView& taxCard() { return *tax_; }
+    view::GameEndView& endView() { return *end_; }
+    view::AboutView& aboutView() { return *about_; }
+
+private:
+    void scheduleRefresh();
+
+    GameRun& run_;
+    view::Dispatch dispatch_;
+    std::unique_ptr<view::MainWindowView> main_;
+    std::unique_ptr<view::GameStartView> start_;
+    std::unique_ptr<view::CellInfoView> cellInfo_;
+    std::unique_ptr<view::TradingCardView> trading_;
+    std::unique_ptr<view::JFLCardView> jfl_;
+    std::unique_ptr<view::TaxCardView> tax_;
+    std::unique_ptr<view::GameEndView> end_;
+    std::unique_ptr<view::AboutView> about_;
+    bool refreshScheduled_ = false;
+    std::function<void()> onRefreshed_;
+    // Set while this object lives: a refresh queued from the event loop checks it.
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+};
+
+}  // namespace gw::app

@@ -1,0 +1,75 @@
+#include "app/QtSound.h"
+
+#include <QAudio>
+#include <QAudioDevice>
+#include <QCoreApplication>
+#include <QDir>
+#include <QMediaDevices>
+#include <QSoundEffect>
+
+namespace gw::app {
+
+namespace {
+
+QUrl findFile(const QStringList& folders, const QString& name) {
+    for (const QString& folder : folders) {
+        const QDir dir(folder);
+        if (!dir.exists()) continue;
+        for (const QString& entry : dir.entryList(QDir::Files)) {
+            if (entry.compare(name, Qt::CaseInsensitive) == 0) {
+                return QUrl::fromLocalFile(dir.absoluteFilePath(entry));
+            }
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+qreal linearVolume(int hundredthsOfDb) {
+    return QAudio::convertVolume(hundredthsOfDb / 100.0, QAudio::DecibelVolumeScale,
+                                 QAudio::LinearVolumeScale);
+}
+
+QStringList QtSound::defaultFolders() {
+    const QString here = QCoreApplication::applicationDirPath();
+    return {here, here + QStringLiteral("/sounds"),
+            QStringLiteral(GILDENWAY_DATA_DIR) + QStringLiteral("/sounds")};
+}
+
+QtSound::QtSound(const QStringList& folders, bool deviceCheck) {
+    hasOutput_ = !deviceCheck || !QMediaDevices::audioOutputs().isEmpty();
+    for (std::size_t e = 0; e < kSoundEffectCount; ++e) {
+        const std::string_view name = kSoundFiles[e];
+        files_[e] =
+            findFile(folders, QString::fromLatin1(name.data(), static_cast<int>(name.size())));
+    }
+    volumes_.fill(linearVolume(kNormalVolume));
+}
+
+QtSound::~QtSound() = default;
+
+int QtSound::filesFound() const {
+    return static_cast<int>(std::count_if(files_.begin(), files_.end(),
+                                          [](const QUrl& url) { return !url.isEmpty(); }));
+}
+
+void QtSound::play(MediaPlayer player, SoundEffect effect) {
+    const QUrl& url = files_[static_cast<std::size_t>(effect)];
+    if (!hasOutput_ || url.isEmpty()) return;
+    // A new effect for each play starts cleanly; the old one stops as it is destroyed.
+    auto sound = std::make_unique<QSoundEffect>();
+    sound->setSource(url);
+    sound->setVolume(static_cast<float>(volumes_[index(player)]));
+    sound->play();
+    playing_[index(player)] = std::move(sound);
+}
+
+void QtSound::setVolume(MediaPlayer player, int hundredthsOfDb) {
+    volumes_[index(player)] = linearVolume(hundredthsOfDb);
+    if (auto& sound = playing_[index(player)]) {
+        sound->setVolume(static_cast<float>(volumes_[index(player)]));
+    }
+}
+
+}  // namespace gw::app

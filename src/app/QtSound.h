@@ -1,0 +1,46 @@
+// The real sound: four players, each play a fresh sound effect that cuts off the one that
+// player was sounding. No output device or no file is silence.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+#include <array>
+#include <memory>
+
+#include "windows/Sound.h"
+
+class QSoundEffect;
+
+namespace gw::app {
+
+class QtSound final : public Sound {
+public:
+    // Sound files are looked for by name, in any case, in these folders in order.
+    explicit QtSound(const QStringList& folders, bool deviceCheck = true);
+    ~QtSound() override;
+
+    void play(MediaPlayer player, SoundEffect effect) override;
+    void setVolume(MediaPlayer player, int hundredthsOfDb) override;
+
+    bool hasOutput() const { return hasOutput_; }
+    int filesFound() const;
+    QUrl file(SoundEffect effect) const { return files_[static_cast<std::size_t>(effect)]; }
+    qreal volume(MediaPlayer player) const { return volumes_[index(player)]; }
+
+    // The folders of a run: beside the program, its "sounds" folder, the installed data.
+    static QStringList defaultFolders();
+
+private:
+    static std::size_t index(MediaPlayer p) { return static_cast<std::size_t>(p); }
+
+    bool hasOutput_ = false;
+    std::array<QUrl, kSoundEffectCount> files_;
+    std::array<std::unique_ptr<QSoundEffect>, 4> playing_;
+    std::array<qreal, 4> volumes_{};
+};
+
+// Linear loudness of a volume in hundredths of a decibel: -600 gives about 0.5.
+qreal linearVolume(int hundredthsOfDb);
+
+}  // namespace gw::app

@@ -1,0 +1,90 @@
+// Gildenway: the desktop program. Makes the real sound, waits and message boxes, one run
+// of the game and its windows, and opens the set-up window.
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <cstdio>
+
+#include "app/Autoplay.h"
+#include "app/MessageFilter.h"
+#include "app/Options.h"
+#include "app/Program.h"
+#include "app/QtDelay.h"
+#include "app/QtMessageBox.h"
+#include "app/QtSound.h"
+#include "view/Style.h"
+#include "windows/GameRun.h"
+
+namespace {
+
+std::unique_ptr<gw::Random> randomSource(const gw::app::Options& options) {
+    if (options.seed) return std::make_unique<gw::SeededRandom>(*options.seed);
+    return std::make_unique<gw::ClockRandom>();
+}
+
+// Prints the window's title and the time since main() began once it has been painted,
+// then ends the event loop.
+class QuitWhenShown : public QObject {
+public:
+    explicit QuitWhenShown(const QElapsedTimer& sinceStart) : sinceStart_(sinceStart) {}
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint && !done_) {
+            done_ = true;
+            auto* window = static_cast<QWidget*>(watched);
+            std::printf("shown: %s\nfirst paint after %lld ms\n", qPrintable(window->windowTitle()),
+                        static_cast<long long>(sinceStart_.elapsed()));
+            std::fflush(stdout);
+            QTimer::singleShot(0, [] { QCoreApplication::exit(0); });
+        }
+        return false;
+    }
+
+private:
+    const QElapsedTimer& sinceStart_;
+    bool done_ = false;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    gw::app::installMessageFilter();
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Gildenway"));
+    QApplication::setQuitOnLastWindowClosed(false);  // the models decide when the program ends
+    app.setStyleSheet(gw::view::styleSheet());
+
+    const gw::app::Options options = gw::app::parseOptions(QApplication::arguments());
+    if (!options.error.isEmpty()) {
+        std::fprintf(stderr, "gildenway: %s\n", qPrintable(options.error));
+        return 2;
+    }
+
+    gw::app::QtSound sound(gw::app::QtSound::defaultFolders());
+    if (sound.filesFound() == 0) {
+        std::fprintf(stderr, "gildenway: no sound files found; playing without sound\n");
+    }
+    gw::app::QtDelay delay(options.tickMs);
+    gw::app::QtMessageBox messages;
+    gw::GameRun run(sound, delay, messages, randomSource(options));
+    run.setOnExit([] { QCoreApplication::exit(0); });
+
+    run.start();
+    gw::app::Program program(run, &delay);
+    messages.setParent([&program] { return &program.startView(); });
+    program.refreshAll();
+
+    QuitWhenShown quitWhenShown(sinceStart);
+    if (options.quitWhenShown) program.startView().installEventFilter(&quitWhenShown);
+    if (options.computers > 0) {
+        program.setOnRefreshed([&] {
+            if (run.gameEnd().isVisible()) {
+                program.dispatch().click([&] { run.gameEnd().Command2_Click(); });
+            }
+        });
+        QTimer::singleShot(
+            0, [&] { gw::app::seatComputers(program.dispatch(), run, options.computers); });
+    }
+    return QApplication::exec();
+}

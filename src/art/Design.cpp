@@ -1,0 +1,97 @@
+// Design space and the few shapes most pictures share (card stock, panels, gold rules).
+#include "art/Design.h"
+
+#include <QLinearGradient>
+#include <QPainterPath>
+#include <algorithm>
+
+#include "art/Palette.h"
+
+namespace gw::art {
+
+DesignSpace::DesignSpace(QPainter& p, const QRectF& rect, QSizeF design, bool keepAspect) : p_(p) {
+    p_.save();
+    const qreal sx = rect.width() / design.width();
+    const qreal sy = rect.height() / design.height();
+    if (keepAspect) {
+        scale_ = std::min(sx, sy);
+        p_.translate(rect.center().x() - design.width() * scale_ / 2,
+                     rect.center().y() - design.height() * scale_ / 2);
+        p_.scale(scale_, scale_);
+    } else {
+        scale_ = std::min(sx, sy);
+        p_.translate(rect.topLeft());
+        p_.scale(sx, sy);
+    }
+}
+
+DesignSpace::~DesignSpace() {
+    p_.restore();
+}
+
+QPen pen(const QColor& colour, qreal width) {
+    QPen p(colour, width);
+    p.setJoinStyle(Qt::RoundJoin);
+    p.setCapStyle(Qt::RoundCap);
+    return p;
+}
+
+QPen inkPen(qreal width) {
+    return pen(colour::ink, width);
+}
+
+QBrush shadedBrush(const QColor& colour, const QRectF& over, int lighter, int darker) {
+    QLinearGradient g(over.topLeft(), over.bottomRight());
+    g.setColorAt(0, colour.lighter(lighter));
+    g.setColorAt(1, colour.darker(darker));
+    return QBrush(g);
+}
+
+void paintCardStock(QPainter& p, const QRectF& rect, qreal radius) {
+    p.save();
+    const QRectF r = rect.adjusted(0.5, 0.5, -0.5, -0.5);
+    QLinearGradient g(r.topLeft(), r.bottomLeft());
+    g.setColorAt(0, colour::cream.lighter(103));
+    g.setColorAt(1, colour::cream);
+    p.setBrush(g);
+    p.setPen(pen(colour::ink, 1));
+    p.drawRoundedRect(r, radius, radius);
+    p.restore();
+}
+
+void paintPanel(QPainter& p, const QRectF& rect) {
+    p.save();
+    const QRectF outer = rect.adjusted(1, 1, -1, -1);
+    p.setPen(pen(colour::tealDeep, 1));
+    p.setBrush(colour::teal);
+    p.drawRoundedRect(outer, 7, 7);
+    const QRectF inner = outer.adjusted(4, 4, -4, -4);
+    QLinearGradient g(inner.topLeft(), inner.bottomLeft());
+    g.setColorAt(0, colour::cream.lighter(103));
+    g.setColorAt(1, colour::cream);
+    p.setBrush(g);
+    p.setPen(pen(colour::gold, 1.2));
+    p.drawRoundedRect(inner, 4, 4);
+    p.restore();
+}
+
+void paintDiamond(QPainter& p, QPointF c, qreal size, const QColor& colour) {
+    QPainterPath d;
+    d.moveTo(c.x(), c.y() - size);
+    d.lineTo(c.x() + size, c.y());
+    d.lineTo(c.x(), c.y() + size);
+    d.lineTo(c.x() - size, c.y());
+    d.closeSubpath();
+    p.fillPath(d, colour);
+}
+
+void paintGoldRule(QPainter& p, QPointF from, QPointF to) {
+    p.save();
+    p.setPen(pen(colour::gold, 1));
+    p.drawLine(from, to);
+    paintDiamond(p, from, 2.5, colour::gold);
+    paintDiamond(p, to, 2.5, colour::gold);
+    p.restore();
+}
+
+}  // namespace gw::art

@@ -1,0 +1,27 @@
+// The end-of-game window's background, the About banner and the team emblems.
+#pragma once
+
+#include <QRectF>
+
+#include "art/Text.h"
+
+class QPainter;
+
+namespace gw::art {
+
+constexpr int kPortraitCount = 7;
+
+// Drawn for 600 x 491: "Game Over", a ribbon for the winner's line at 96,104 (265 x 17) and
+// a podium for the winner's token at 264,168 (97 x 81); the buttons' column at x 416 stays plain.
+TextBoxes paintEndBackground(QPainter& p, const QRectF& rect);
+
+// Drawn for 708 x 185: "Gildenway" and "Kestrovia" over the skyline.
+TextBoxes paintAboutBanner(QPainter& p, const QRectF& rect);
+
+// One of seven friendly abstract faces (about 97 x 89), index 0 to 6.
+void paintPortrait(QPainter& p, const QRectF& rect, int index);
+
+// The application icon, at any square size.
+void paintAppIcon(QPainter& p, const QRectF& rect);
+
+}  // namespace gw::art

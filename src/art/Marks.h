@@ -1,0 +1,19 @@
+// Marks laid over board cells: a hotel and the mortgage stamp.
+#pragma once
+
+#include <QRectF>
+
+#include "art/Text.h"
+
+class QPainter;
+
+namespace gw::art {
+
+// A small gold-roofed building; in a rect wider than tall it is turned on its side with the
+// roof towards the right.
+void paintHotel(QPainter& p, const QRectF& rect);
+
+// A red, half-transparent "MORTGAGED" stamp laid along the rectangle's diagonal.
+TextBoxes paintMortgageStamp(QPainter& p, const QRectF& rect);
+
+}  // namespace gw::art

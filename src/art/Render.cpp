@@ -1,0 +1,29 @@
+// Rendering helpers shared by the program, the contact sheets and the tests.
+#include "art/Render.h"
+
+#include <QPainter>
+#include <cmath>
+
+namespace gw::art {
+
+QImage renderImage(QSize logical, qreal dpr, const PaintFunction& paint) {
+    const QSize device(static_cast<int>(std::ceil(logical.width() * dpr)),
+                       static_cast<int>(std::ceil(logical.height() * dpr)));
+    QImage image(device, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(dpr);
+    image.fill(Qt::transparent);
+    QPainter p(&image);
+    p.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                     QPainter::SmoothPixmapTransform);
+    paint(p, QRectF(QPointF(0, 0), QSizeF(logical)));
+    p.end();
+    return image;
+}
+
+QPixmap renderPicture(QSize logical, qreal dpr, const PaintFunction& paint) {
+    QPixmap pixmap = QPixmap::fromImage(renderImage(logical, dpr, paint));
+    pixmap.setDevicePixelRatio(dpr);
+    return pixmap;
+}
+
+}  // namespace gw::art

@@ -1,0 +1,170 @@
+// The set-up window. Its controls lie over the background at fixed places, so the
+// background prints the labels and frames around them and leaves their own space plain.
+#include "art/StartWindow.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "art/Design.h"
+#include "art/Emblems.h"
+#include "art/Palette.h"
+
+namespace gw::art {
+
+namespace {
+
+void paintWell(QPainter& p, const QRectF& r, qreal radius = 4) {
+    p.setPen(pen(colour::creamShade.darker(118), 1));
+    p.setBrush(colour::withAlpha(colour::paper, 230));
+    p.drawRoundedRect(r, radius, radius);
+}
+
+void paintComputerIcon(QPainter& p, const QRectF& r) {
+    DesignSpace ds(p, r, QSizeF(100, 100));
+    p.setPen(inkPen(ds.px(1.2)));
+    p.setBrush(shadedBrush(colour::teal, QRectF(8, 12, 84, 60), 140, 110));
+    p.drawRoundedRect(QRectF(8, 12, 84, 58), 6, 6);
+    p.setBrush(QColor(0xCF, 0xE6, 0xEA));
+    p.drawRoundedRect(QRectF(16, 20, 68, 42), 3, 3);
+    p.setBrush(colour::creamShade);
+    p.drawRect(QRectF(42, 70, 16, 12));
+    p.drawRoundedRect(QRectF(24, 82, 52, 8), 3, 3);
+    // A die on the screen: this player throws for itself.
+    p.setBrush(colour::ivory);
+    p.drawRoundedRect(QRectF(38, 28, 24, 24), 4, 4);
+    p.setBrush(colour::ink);
+    p.setPen(Qt::NoPen);
+    p.drawEllipse(QPointF(44, 34), 2.6, 2.6);
+    p.drawEllipse(QPointF(50, 40), 2.6, 2.6);
+    p.drawEllipse(QPointF(56, 46), 2.6, 2.6);
+}
+
+void paintHumanIcon(QPainter& p, const QRectF& r) {
+    DesignSpace ds(p, r, QSizeF(100, 100));
+    p.setPen(inkPen(ds.px(1.2)));
+    p.setBrush(shadedBrush(colour::gold, QRectF(14, 50, 72, 44), 130, 110));
+    QPainterPath shoulders;
+    shoulders.moveTo(14, 94);
+    shoulders.cubicTo(14, 62, 30, 54, 50, 54);
+    shoulders.cubicTo(70, 54, 86, 62, 86, 94);
+    shoulders.closeSubpath();
+    p.drawPath(shoulders);
+    p.setBrush(shadedBrush(QColor(0xF1, 0xC2, 0x9A), QRectF(30, 8, 40, 42), 115, 108));
+    p.drawEllipse(QPointF(50, 30), 19, 21);
+    p.setBrush(colour::ink);
+    p.setPen(Qt::NoPen);
+    p.drawEllipse(QPointF(43, 28), 2.4, 2.4);
+    p.drawEllipse(QPointF(57, 28), 2.4, 2.4);
+    p.setPen(inkPen(ds.px(1.1)));
+    p.setBrush(Qt::NoBrush);
+    p.drawArc(QRectF(42, 30, 16, 12), 200 * 16, 140 * 16);
+}
+
+}  // namespace
+
+TextBoxes paintStartBackground(QPainter& p, const QRectF& rect) {
+    TextBoxes out;
+    DesignSpace ds(p, rect, QSizeF(600, 400), false);
+    p.fillRect(QRectF(0, 0, 600, 400), colour::teal);
+    QLinearGradient paperWash(0, 0, 0, 400);
+    paperWash.setColorAt(0, colour::cream.lighter(104));
+    paperWash.setColorAt(1, colour::cream);
+    p.setPen(pen(colour::gold, 1.5));
+    p.setBrush(paperWash);
+    p.drawRoundedRect(QRectF(4, 4, 592, 392), 8, 8);
+    // The title over the city.
+    paintSkyline(p, QRectF(6, 58, 588, 72), colour::withAlpha(colour::teal, 40));
+    drawText(out, p, QRectF(120, 14, 360, 56), QStringLiteral("Gildenway"),
+             TextStyle{Face::Title, 48, colour::teal, Qt::AlignCenter, 1, 20});
+    paintGoldRule(p, QPointF(170, 78), QPointF(430, 78));
+    drawText(out, p, QRectF(150, 84, 300, 20), QStringLiteral("A CITY GAME OF KESTROVIA"),
+             TextStyle{Face::Caption, 13, colour::goldDeep, Qt::AlignCenter, 1, 9, 2});
+    drawText(out, p, QRectF(40, 126, 360, 20), QStringLiteral("Add two to six players"),
+             TextStyle{Face::Caption, 13, colour::inkSoft, Qt::AlignLeft | Qt::AlignVCenter, 1, 9});
+    // Name entry, with its label.
+    drawText(out, p, QRectF(40, 158, 98, 25), QStringLiteral("Name"),
+             TextStyle{Face::Caption, 13, colour::ink, Qt::AlignRight | Qt::AlignVCenter, 1, 9});
+    paintWell(p, QRectF(142, 156, 173, 29));
+    // Player type wells.
+    paintWell(p, QRectF(46, 198, 158, 54), 6);
+    paintWell(p, QRectF(206, 198, 158, 54), 6);
+    // The token shelf: two rows of seven.
+    p.setPen(pen(colour::creamShade.darker(112), 1));
+    p.setBrush(colour::withAlpha(colour::creamShade, 150));
+    p.drawRoundedRect(QRectF(5, 251, 398, 116), 6, 6);
+    p.setPen(Qt::NoPen);
+    for (int row = 0; row < 2; ++row) {
+        for (int i = 0; i < 7; ++i) {
+            p.setBrush(colour::withAlpha(colour::paper, 200));
+            p.drawEllipse(QPointF(8 + 56 * i + 28, 253 + 56 * row + 28), 25, 25);
+        }
+    }
+    drawText(out, p, QRectF(10, 372, 380, 18), QStringLiteral("Pick a token for each player"),
+             TextStyle{Face::Caption, 11, colour::inkSoft, Qt::AlignLeft | Qt::AlignVCenter, 1, 8});
+    // The list of players.
+    p.setPen(pen(colour::teal, 2));
+    p.setBrush(colour::paper);
+    p.drawRoundedRect(QRectF(410, 152, 156, 190), 6, 6);
+    p.setPen(Qt::NoPen);
+    p.setBrush(colour::teal);
+    p.drawRoundedRect(QRectF(410, 152, 156, 26), 6, 6);
+    p.drawRect(QRectF(410, 166, 156, 12));
+    drawText(out, p, QRectF(416, 154, 144, 22), QStringLiteral("PLAYERS"),
+             TextStyle{Face::Caption, 12, colour::goldLight, Qt::AlignCenter, 1, 9, 2});
+    paintCompassRose(p, QRectF(464, 348, 46, 46));
+    p.setPen(pen(colour::creamShade, 1));
+    for (int i = 1; i < 6; ++i)
+        p.drawLine(QPointF(418, 184 + 25.3 * i), QPointF(558, 184 + 25.3 * i));
+    return out;
+}
+
+TextBoxes paintPlayerType(QPainter& p, const QRectF& rect, PlayerType type, bool large) {
+    TextBoxes out;
+    DesignSpace ds(p, rect, QSizeF(154, 50), false);
+    const QRectF r(1, 1, 152, 48);
+    const QString label =
+        type == PlayerType::Computer ? QStringLiteral("Computer") : QStringLiteral("Human");
+    if (large) {
+        // A raised plaque that asks to be pressed.
+        p.setPen(Qt::NoPen);
+        p.setBrush(colour::withAlpha(colour::ink, 50));
+        p.drawRoundedRect(r.translated(1, 2), 8, 8);
+        p.setPen(pen(colour::tealDeep, 1));
+        p.setBrush(shadedBrush(colour::teal, r, 135, 110));
+        p.drawRoundedRect(r, 8, 8);
+        p.setPen(pen(colour::goldLight, 1));
+        p.setBrush(Qt::NoBrush);
+        p.drawRoundedRect(r.adjusted(3, 3, -3, -3), 6, 6);
+        p.setBrush(colour::cream);
+        p.setPen(Qt::NoPen);
+        p.drawEllipse(QPointF(27, 25), 17, 17);
+        if (type == PlayerType::Computer)
+            paintComputerIcon(p, QRectF(12, 10, 30, 30));
+        else
+            paintHumanIcon(p, QRectF(12, 10, 30, 30));
+        drawText(out, p, QRectF(48, 6, 100, 38), label,
+                 TextStyle{Face::Title, 20, colour::cream, Qt::AlignCenter, 1, 12});
+    } else {
+        // The choice in force: a pressed-in gold-edged badge with a tick.
+        p.setPen(pen(colour::gold, 2));
+        p.setBrush(colour::paper);
+        p.drawRoundedRect(r.adjusted(1, 1, -1, -1), 8, 8);
+        if (type == PlayerType::Computer)
+            paintComputerIcon(p, QRectF(10, 11, 28, 28));
+        else
+            paintHumanIcon(p, QRectF(10, 11, 28, 28));
+        drawText(out, p, QRectF(44, 8, 82, 34), label,
+                 TextStyle{Face::Caption, 14, colour::teal, Qt::AlignCenter, 1, 9});
+        p.setPen(pen(colour::moneyPlus, 3));
+        QPainterPath tick;
+        tick.moveTo(128, 25);
+        tick.lineTo(134, 32);
+        tick.lineTo(145, 17);
+        p.setBrush(Qt::NoBrush);
+        p.drawPath(tick);
+    }
+    return out;
+}
+
+}  // namespace gw::art

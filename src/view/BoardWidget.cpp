@@ -1,0 +1,103 @@
+#include "view/BoardWidget.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "art/Render.h"
+#include "view/BoardLayout.h"
+#include "windows/MainWindow.h"
+
+namespace gw::view {
+
+namespace {
+constexpr int kCells = 40;
+constexpr qreal kDieSide = 31;
+
+// The cells in the order they are painted: the corners last, so they sit on top.
+constexpr std::array<int, kCells> paintOrder() {
+    std::array<int, kCells> order{};
+    int n = 0;
+    for (int c = 0; c < kCells; ++c) {
+        if (c % 10 != 0) order[static_cast<std::size_t>(n++)] = c;
+    }
+    for (int c = 0; c < kCells; c += 10) order[static_cast<std::size_t>(n++)] = c;
+    return order;
+}
+constexpr auto kPaintOrder = paintOrder();
+
+QRectF dieSquare(int die) {
+    const QRectF r = dieRect(die);
+    return {r.center().x() - kDieSide / 2, r.center().y() - kDieSide / 2, kDieSide, kDieSide};
+}
+}  // namespace
+
+BoardWidget::BoardWidget(QWidget* parent, const MainWindow& model, CellPrints prints)
+    : QWidget(parent), model_(model), prints_(std::move(prints)) {
+    setFixedSize(kBoardWidth, kBoardHeight);
+    setCursor(Qt::PointingHandCursor);
+}
+
+// The centre and the cells change only with the pixel ratio of what is painted on.
+const QPixmap& BoardWidget::background(qreal dpr) {
+    if (background_.isNull() || !qFuzzyCompare(background_.devicePixelRatio(), dpr)) {
+        background_ = art::renderPicture(size(), dpr, [this](QPainter& p, const QRectF& r) {
+            p.fillRect(r, QColor(0x1F, 0x5C, 0x5A));
+            paintCentre(p, centreRect());
+            for (int c : kPaintOrder) {
+                if (const auto& print = prints_[static_cast<std::size_t>(c)]) {
+                    paintCell(p, cellRect(c), c, *print);
+                }
+            }
+        });
+    }
+    return background_;
+}
+
+void BoardWidget::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.drawPixmap(0, 0, background(p.device()->devicePixelRatioF()));
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+
+    // From the lowest to the uppermost, as the board's pictures lie on one another.
+    for (int id = kMaxPlayers - 1; id >= 0; --id) {
+        const MainWindow::BigToken& token = model_.bigToken(id);
+        const int picture = model_.panel(id).token;
+        if (token.visible && picture >= 0) paintToken(p, bigTokenRect(id, token.cell), picture);
+    }
+    for (int c = 0; c < kCells; ++c) {
+        const int owner = model_.ownerMark(c);
+        if (owner >= 0) paintToken(p, ownerRect(c), owner);
+    }
+    if (model_.dieFace1() > 0) paintDie(p, dieSquare(1), model_.dieFace1());
+    if (model_.dieFace2() > 0) paintDie(p, dieSquare(2), model_.dieFace2());
+    for (int c = 0; c < kCells; ++c) {
+        for (int s = 0; s < kMaxPlayers; ++s) {
+            const int picture = model_.square(c, s);
+            if (picture >= 0) paintToken(p, squareRect(c, s), picture);
+        }
+    }
+    for (int c = 0; c < kCells; ++c) {
+        for (int h = 0; h < model_.hotelsShown(c) && h < 4; ++h) {
+            paintHotel(p, hotelRect(c, h), isSideCell(c));
+        }
+    }
+    for (int c = 0; c < kCells; ++c) {
+        if (model_.mortgageShown(c)) paintMortgage(p, mortgageRect(c), isSideCell(c));
+    }
+}
+
+int BoardWidget::cellAt(QPointF point) const {
+    for (auto it = kPaintOrder.rbegin(); it != kPaintOrder.rend(); ++it) {
+        if (cellRect(*it).contains(point)) return *it;
+    }
+    return -1;
+}
+
+void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    const int cell = cellAt(event->position());
+    if (cell >= 0) emit cellClicked(cell);
+}
+
+}  // namespace gw::view

@@ -1,0 +1,41 @@
+// The board of the main window: the centre picture and the forty cells, with what stands
+// on them drawn from the main window model (small squares, owner marks, hotels, mortgage
+// stamps, the walking tokens, the dice). A click on a cell is passed on by its index.
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+#include <functional>
+
+#include "view/Pictures.h"
+
+namespace gw {
+class MainWindow;
+}
+
+namespace gw::view {
+
+class BoardWidget : public QWidget {
+    Q_OBJECT
+public:
+    BoardWidget(QWidget* parent, const MainWindow& model, CellPrints prints);
+
+    // The cell under a point of the widget, or -1.
+    int cellAt(QPointF point) const;
+
+signals:
+    void cellClicked(int cellId);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    const QPixmap& background(qreal dpr);
+
+    const MainWindow& model_;
+    CellPrints prints_;
+    QPixmap background_;
+};
+
+}  // namespace gw::view

@@ -1,0 +1,108 @@
+#include "view/ControlSet.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QWidget>
+#include <algorithm>
+
+#include "view/CaptionButton.h"
+#include "view/Style.h"
+
+namespace gw::view {
+
+namespace {
+
+constexpr int kSmallestPx = 8;
+
+// A one-line label whose text is wider than its box gets a smaller font, down to 8 px.
+void fitOneLine(QLabel& label) {
+    if (label.wordWrap()) return;
+    QFont f = label.font();
+    int px = label.property("basePx").toInt();
+    f.setPixelSize(px);
+    while (px > kSmallestPx &&
+           QFontMetrics(f).horizontalAdvance(label.text()) > label.width() - 2) {
+        f.setPixelSize(--px);
+    }
+    label.setFont(f);
+}
+
+}  // namespace
+
+QString qs(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+ControlSet::ControlSet(QWidget& parent, std::span<const Place> places) {
+    for (const Place& place : places) {
+        QWidget* w = nullptr;
+        switch (place.kind) {
+            case ControlKind::Button: {
+                auto* button = new CaptionButton(&parent);
+                button->setFocusPolicy(Qt::TabFocus);
+                w = button;
+                break;
+            }
+            case ControlKind::Label: {
+                auto* label = new QLabel(&parent);
+                label->setAlignment(place.align);
+                label->setWordWrap(place.wrap);
+                label->setAttribute(Qt::WA_TranslucentBackground);
+                label->setProperty("role", "printed");
+                w = label;
+                break;
+            }
+            case ControlKind::TextEntry: {
+                auto* entry = new QLineEdit(&parent);
+                entry->setAlignment(place.align);
+                w = entry;
+                break;
+            }
+        }
+        w->setObjectName(QString::fromUtf8(place.name.data(), static_cast<int>(place.name.size())));
+        w->setGeometry(place.rect());
+        w->setFont(controlFont(place.kind, place.fontPx));
+        w->setProperty("basePx", place.fontPx);
+        widgets_.emplace(std::string(place.name), w);
+    }
+}
+
+void ControlSet::apply(std::string_view name, const Control& control) {
+    QWidget* w = widget(name);
+    if (!w) {
+        if (std::find(unplaced_.begin(), unplaced_.end(), name) == unplaced_.end()) {
+            unplaced_.emplace_back(name);
+        }
+        return;
+    }
+    const QString caption = qs(control.caption);
+    if (auto* b = qobject_cast<QAbstractButton*>(w)) {
+        if (b->text() != caption) b->setText(caption);
+    } else if (auto* l = qobject_cast<QLabel*>(w)) {
+        if (l->text() != caption) {
+            l->setText(caption);
+            fitOneLine(*l);
+        }
+    } else if (auto* e = qobject_cast<QLineEdit*>(w)) {
+        if (e->text() != caption) e->setText(caption);
+    }
+    if (w->isEnabled() != control.enabled) w->setEnabled(control.enabled);
+    if (w->isVisibleTo(w->parentWidget()) != control.visible) w->setVisible(control.visible);
+}
+
+QWidget* ControlSet::widget(std::string_view name) const {
+    const auto it = widgets_.find(name);
+    return it == widgets_.end() ? nullptr : it->second;
+}
+
+QAbstractButton* ControlSet::button(std::string_view name) const {
+    return qobject_cast<QAbstractButton*>(widget(name));
+}
+QLabel* ControlSet::label(std::string_view name) const {
+    return qobject_cast<QLabel*>(widget(name));
+}
+QLineEdit* ControlSet::entry(std::string_view name) const {
+    return qobject_cast<QLineEdit*>(widget(name));
+}
+
+}  // namespace gw::view

@@ -1,0 +1,131 @@
+#include "view/MainWindowView.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QMenuBar>
+
+#include "view/Places.h"
+#include "windows/MainWindow.h"
+
+namespace gw::view {
+
+namespace {
+
+constexpr QSize kClient{778, 596};
+constexpr int kPanelX = 592;
+
+// The four panels, stacked without overlap down the right side.
+struct PanelPlace {
+    Panel panel;
+    QRect rect;
+};
+constexpr std::array<PanelPlace, 4> kPanels = {{
+    {Panel::Players, {kPanelX, 0, 186, 192}},
+    {Panel::Messages, {kPanelX, 192, 186, 184}},
+    {Panel::Emblem, {kPanelX, 376, 186, 96}},
+    {Panel::Turn, {kPanelX, 472, 186, 124}},
+}};
+
+// Within the players' panel: the bar behind row i and the token of row i.
+QRectF turnBarRect(int row) {
+    constexpr std::array<int, 6> lefts = {330, 330, 315, 300, 300, 300};
+    constexpr std::array<int, 6> tops = {465, 855, 1260, 1605, 1995, 2355};
+    const auto i = static_cast<std::size_t>(row);
+    return QRectF(pixels(lefts[i], tops[i], 2205, 345));
+}
+QRectF panelTokenRect(int row) {
+    return QRectF(pixels(390, 480 + 375 * row, 360, 360));
+}
+
+}  // namespace
+
+MainWindowView::MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints prints)
+    : dispatch_(dispatch), model_(model), client_(new QWidget(this)) {
+    setWindowTitle(QStringLiteral("Gildenway v1.0"));
+    client_->setFixedSize(kClient);
+    setCentralWidget(client_);
+    board_ = new BoardWidget(client_, model_, std::move(prints));
+    board_->move(0, 0);
+    connect(board_, &BoardWidget::cellClicked, this, [this](int cell) {
+        click([this, cell] { model_.cell_Click(static_cast<Integer>(cell)); });
+    });
+
+    for (std::size_t i = 0; i < kPanels.size(); ++i) {
+        const PanelPlace place = kPanels[i];
+        auto* panel = new PictureWidget(client_);
+        panel->setGeometry(place.rect);
+        panels_[i] = panel;
+    }
+    panels_[0]->setPaint([this](QPainter& p, const QRectF& r) {
+        paintPanel(p, r, Panel::Players);
+        if (model_.turnBar() >= 0) paintTurnBar(p, turnBarRect(model_.turnBar()));
+        for (int i = 0; i < kMaxPlayers; ++i) {
+            const MainWindow::PanelRow& row = model_.panel(i);
+            if (row.tokenVisible && row.token >= 0) paintToken(p, panelTokenRect(i), row.token);
+        }
+    });
+    panels_[1]->setPaint([](QPainter& p, const QRectF& r) { paintPanel(p, r, Panel::Messages); });
+    panels_[2]->setPaint([](QPainter& p, const QRectF& r) { paintPanel(p, r, Panel::Emblem); });
+    panels_[3]->setPaint([this](QPainter& p, const QRectF& r) {
+        paintPanel(p, r, Panel::Turn);
+        if (model_.playToken() >= 0) {
+            paintToken(p, QRectF(pixels(240, 600, 840, 840)), model_.playToken());
+        }
+    });
+
+    controls_ = std::make_unique<ControlSet>(*client_, mainWindowPlaces());
+    const std::array<std::pair<const char*, void (MainWindow::*)()>, 5> buttons = {{
+        {"rollDice", &MainWindow::rollDice_Click},
+        {"declareBank", &MainWindow::declareBank_Click},
+        {"endTurn", &MainWindow::endTurn_Click},
+        {"pay50Rent", &MainWindow::pay50Rent_Click},
+        {"useJFLCard", &MainWindow::useJFLCard_Click},
+    }};
+    for (const auto& [name, handler] : buttons) {
+        if (QAbstractButton* b = controls_->button(name)) {
+            connect(b, &QAbstractButton::clicked, this,
+                    [this, h = handler] { click([this, h] { (model_.*h)(); }); });
+        }
+    }
+    buildMenus();
+}
+
+void MainWindowView::buildMenus() {
+    QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
+    QMenu* sound = file->addMenu(QStringLiteral("&Sound"));
+    actions_["Mute"] = sound->addAction(QStringLiteral("&Mute"), this,
+                                        [this] { click([this] { model_.Mute_Click(); }); });
+    actions_["Enable"] = sound->addAction(QStringLiteral("&Enable"), this,
+                                          [this] { click([this] { model_.Enable_Click(); }); });
+    // The voice entries are there and do nothing: the game speaks no text.
+    QMenu* voice = file->addMenu(QStringLiteral("&Voice"));
+    actions_["Mute1"] = voice->addAction(QStringLiteral("&Mute"));
+    actions_["Enable1"] = voice->addAction(QStringLiteral("&Enable"));
+    file->addSeparator();
+    actions_["Exit"] = file->addAction(QStringLiteral("E&xit"), this,
+                                       [this] { click([this] { model_.Exit_Click(); }); });
+    QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
+    actions_["About"] = help->addAction(QStringLiteral("&About"), this,
+                                        [this] { click([this] { model_.About_Click(); }); });
+}
+
+QAction& MainWindowView::action(std::string_view name) const {
+    return *actions_.find(name)->second;
+}
+
+void MainWindowView::refresh() {
+    controls_->apply(model_);
+    client_->setEnabled(model_.isEnabled());
+    menuBar()->setEnabled(model_.isEnabled());
+    board_->update();
+    for (PictureWidget* panel : panels_) panel->update();
+    if (model_.isVisible() != isVisible()) setVisible(model_.isVisible());
+}
+
+void MainWindowView::closeEvent(QCloseEvent* event) {
+    // Closing the window is leaving the program, as File > Exit is.
+    event->ignore();
+    click([this] { model_.Exit_Click(); });
+}
+
+}  // namespace gw::view

@@ -1,0 +1,39 @@
+#include "view/WindowView.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+
+namespace gw::view {
+
+WindowView::WindowView(Dispatch& dispatch, const QString& title, QSize client,
+                       std::span<const Place> places, Paint background)
+    : QWidget(nullptr),
+      dispatch_(dispatch),
+      background_(new PictureWidget(this, std::move(background))),
+      controls_(*this, places) {
+    setWindowTitle(title);
+    setFixedSize(client);
+    background_->setGeometry(0, 0, client.width(), client.height());
+    background_->lower();
+}
+
+void WindowView::onClicked(std::string_view name, std::function<void()> handler) {
+    if (QAbstractButton* b = controls_.button(name)) {
+        connect(b, &QAbstractButton::clicked, this,
+                [this, handler = std::move(handler)] { dispatch_.click(handler); });
+    }
+}
+
+void WindowView::followVisibility(bool visible) {
+    if (visible == isVisible()) return;
+    setVisible(visible);
+    if (visible) raise();
+}
+
+void WindowView::closeEvent(QCloseEvent* event) {
+    // The model decides whether the window goes; refresh then hides it.
+    event->ignore();
+    if (onCloseBox_) dispatch_.click(onCloseBox_);
+}
+
+}  // namespace gw::view

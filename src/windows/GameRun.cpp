@@ -1,0 +1,84 @@
+#include "windows/GameRun.h"
+
+namespace gw {
+
+GameRun::GameRun(Sound& sound, Delay& delay, MessageBox& messages, std::unique_ptr<Random> random)
+    : sound_(sound),
+      delay_(*this, delay),
+      main_(sound, delay_),
+      windows_(main_, sound, delay_),
+      board_(windows_, std::move(random)),
+      start_(board_, sound, messages),
+      end_(main_) {
+    start_.setOnStart([this](const GameSetup& setup) { beginGame(setup); });
+    main_.setOnExit([this] { requestExit(); });
+    main_.setOnAbout([this] { about_.show(); });
+    main_.setOnGameEnd([this] { end_.Form_Load(); });
+    end_.setOnNewGame([this] { requestNewGame(); });
+    end_.setOnExit([this] { requestExit(); });
+    board_.setOnTurnPlayed([this] { return !isWindingDown(); });
+}
+
+void GameRun::start() {
+    start_.Form_Load();
+}
+
+void GameRun::setOnChanged(std::function<void()> hook) {
+    main_.setOnChanged(hook);
+    windows_.setOnChanged(hook);
+    start_.setOnChanged(hook);
+    end_.setOnChanged(hook);
+    about_.setOnChanged(std::move(hook));
+}
+
+void GameRun::click(const std::function<void()>& handler) {
+    if (exited_) return;
+    ++clickDepth_;
+    handler();
+    --clickDepth_;
+    if (clickDepth_ == 0) finishPending();
+}
+
+void GameRun::RunDelay::wait(Integer ticks) {
+    if (run_.isWindingDown()) return;
+    inner_.wait(ticks);
+}
+
+void GameRun::requestExit() {
+    exitPending_ = true;
+}
+
+void GameRun::requestNewGame() {
+    newGamePending_ = true;
+}
+
+void GameRun::finishPending() {
+    if (exitPending_) {
+        exited_ = true;
+        if (onExit_) onExit_();
+        return;
+    }
+    if (newGamePending_) {
+        newGame();
+        newGamePending_ = false;
+    }
+}
+
+// Every window back to its state at load, the cards without players, the same board
+// built anew and the set-up window up with its sound.
+void GameRun::newGame() {
+    windows_.forgetPlayers();
+    main_.unload();
+    end_.unload();
+    about_.unload();
+    start_.startNew();
+}
+
+void GameRun::beginGame(const GameSetup& setup) {
+    board_.addPlayers(setup);
+    main_.init(board_);
+    main_.show();
+    main_.startGame();
+}
+
+}  // namespace gw

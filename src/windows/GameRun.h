@@ -1,0 +1,90 @@
+// One run of the program: the board with its source of chance, the main window, the four
+// card windows, the set-up, end and About windows, and the sound, delay and message-box
+// interfaces that the desktop program or a test supplies. Nothing here is global, so
+// several runs can live in one process.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "game/Board.h"
+#include "game/Random.h"
+#include "windows/Delay.h"
+#include "windows/GameEnd.h"
+#include "windows/GameStart.h"
+#include "windows/MainWindow.h"
+#include "windows/MessageBox.h"
+#include "windows/Sound.h"
+#include "windows/Windows.h"
+
+namespace gw {
+
+class GameRun {
+public:
+    GameRun(Sound& sound, Delay& delay, MessageBox& messages, std::unique_ptr<Random> random);
+    GameRun(const GameRun&) = delete;
+    GameRun& operator=(const GameRun&) = delete;
+
+    // Opens the set-up window, as the program does when it starts.
+    void start();
+
+    // Every click, key and menu entry of a view enters through here. The handler runs
+    // at once; a new game or the end of the program asked for inside it happens when
+    // the outermost handler returns, after the waits still on the stack have been cut
+    // short and any run of computer turns has stopped.
+    void click(const std::function<void()>& handler);
+
+    // The program ends: the desktop program quits its event loop, a headless run notes it.
+    void setOnExit(std::function<void()> hook) { onExit_ = std::move(hook); }
+    // Fires whenever any window model changed. A view marks itself dirty and repaints
+    // from the event loop, which runs inside every wait: one rule step may change a
+    // model several times, and only the last state needs drawing.
+    void setOnChanged(std::function<void()> hook);
+
+    // True from the moment the end of the program or a new game is asked for until it
+    // has happened: waits return at once and no further computer turn starts.
+    bool isWindingDown() const { return exitPending_ || newGamePending_; }
+    bool hasExited() const { return exited_; }
+
+    Board& board() { return board_; }
+    MainWindow& mainWindow() { return main_; }
+    Windows& windows() { return windows_; }
+    GameStart& gameStart() { return start_; }
+    GameEnd& gameEnd() { return end_; }
+    About_Help& about() { return about_; }
+
+private:
+    // The supplied delay, skipped while the run winds down.
+    class RunDelay final : public Delay {
+    public:
+        RunDelay(GameRun& run, Delay& inner) : run_(run), inner_(inner) {}
+        void wait(Integer ticks) override;
+
+    private:
+        GameRun& run_;
+        Delay& inner_;
+    };
+
+    void requestExit();
+    void requestNewGame();
+    void newGame();
+    void beginGame(const GameSetup& setup);
+    void finishPending();
+
+    Sound& sound_;
+    RunDelay delay_;
+    MainWindow main_;
+    Windows windows_;
+    Board board_;
+    GameStart start_;
+    GameEnd end_;
+    About_Help about_;
+
+    int clickDepth_ = 0;
+    bool exitPending_ = false;
+    bool newGamePending_ = false;
+    bool exited_ = false;
+    std::function<void()> onExit_;
+};
+
+}  // namespace gw

@@ -1,0 +1,111 @@
+// A whole run of the program driven as a person would, through click handlers only:
+// the set-up window, the main window, the cards, the end window. Chance is scripted, waits
+// are instant unless a test asks a click to land inside one.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "GameFixture.h"
+#include "windows/GameRun.h"
+
+namespace gw::test {
+
+// Sounds and waits, one line each; a wait can run a click, as a real wait serves one.
+class RunRecorder final : public Sound, public Delay {
+public:
+    std::vector<std::string> log;
+    // Runs at the next wait whose ticks match (0: any), then is dropped.
+    std::function<void()> duringWait;
+    Integer duringWaitTicks = 0;
+    int waits = 0;
+
+    void play(MediaPlayer player, SoundEffect effect) override {
+        log.push_back("sound " + std::to_string(static_cast<int>(player)) + ": " +
+                      std::string(soundFile(effect)));
+    }
+    void setVolume(MediaPlayer player, int volume) override {
+        log.push_back("volume " + std::to_string(static_cast<int>(player)) + " " +
+                      std::to_string(volume));
+    }
+    void wait(Integer ticks) override {
+        ++waits;
+        if (duringWait && (duringWaitTicks == 0 || duringWaitTicks == ticks)) {
+            std::exchange(duringWait, nullptr)();
+        }
+    }
+};
+
+// Every control of a window by name, as "name: caption [hidden] [closed]".
+template <class Model>
+std::map<std::string, std::string> controlsOf(const Model& model) {
+    std::map<std::string, std::string> all;
+    model.forEachControl([&](std::string_view name, const Control& c) {
+        all[std::string(name)] =
+            c.caption + (c.visible ? "" : " [hidden]") + (c.enabled ? "" : " [closed]");
+    });
+    return all;
+}
+
+class RunFixture : public ::testing::Test {
+protected:
+    explicit RunFixture(std::vector<int> deckOrder = deckInOrder()) {
+        auto scripted = std::make_unique<ScriptedRandom>(deckDraws(deckOrder));
+        random = scripted.get();
+        run = std::make_unique<GameRun>(rec, rec, boxes, std::move(scripted));
+        run->setOnExit([this] { ++exits; });
+        run->start();
+    }
+
+    GameStart& start() { return run->gameStart(); }
+    MainWindow& main() { return run->mainWindow(); }
+    Windows& windows() { return run->windows(); }
+    Board& board() { return run->board(); }
+    player& seat(int id) { return *board().getPlayer(static_cast<Integer>(id)); }
+
+    void click(const std::function<void()>& handler) { run->click(handler); }
+    // Adds a player through the set-up window: kind, token, name, Add Player.
+    void addPlayer(const std::string& name, int token, bool computer = false) {
+        click([&] {
+            if (computer != start().nextIsComputer()) {
+                computer ? start().Image1_Click() : start().Image4_Click();
+            }
+            start().Token_Click(token);
+            if (!computer) start().NickName_Change(name);
+            start().Command1_Click();
+        });
+    }
+    // Let's Start, with the order of play kept as added.
+    void letsStart() {
+        const int n = start().playerCount();
+        for (int s = 0; s < n; ++s) random->push(ScriptedRandom::slot(s, n));
+        click([&] { start().Command2_Click(); });
+    }
+    void nextThrow(int a, int b) { random->pushFaces({a, b}); }
+    void roll() {
+        click([&] { main().rollDice_Click(); });
+    }
+    void endTurn() {
+        click([&] { main().endTurn_Click(); });
+    }
+    Lines buttons() const {
+        const MainWindow& m = run->mainWindow();
+        return shown(
+            "rollDice endTurn declareBank pay50Rent useJFLCard",
+            {&m.rollDice(), &m.endTurn(), &m.declareBank(), &m.pay50Rent(), &m.useJFLCard()});
+    }
+
+    RunRecorder rec;
+    RecordedMessageBox boxes;
+    ScriptedRandom* random = nullptr;
+    std::unique_ptr<GameRun> run;
+    int exits = 0;
+};
+
+}  // namespace gw::test

@@ -1,0 +1,110 @@
+// The simulator's command line: good lines give the run asked for, and every bad one
+// gives one line that names the option and what it accepts.
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "Options.h"
+
+namespace gw::test {
+namespace {
+
+sim::ParsedOptions parse(const std::string& line, unsigned cores = 2) {
+    std::istringstream in(line);
+    std::vector<std::string> words;
+    for (std::string word; in >> word;) words.push_back(word);
+    const std::vector<std::string_view> args(words.begin(), words.end());
+    return sim::parseOptions(args, cores);
+}
+
+TEST(SimOptions, AGoodLineGivesTheRunAskedFor) {
+    const sim::ParsedOptions parsed = parse(
+        "--games 1000000000 --players=6 --seed 18446744073709551615 --max-turns 7 --jobs=3 "
+        "--check");
+    ASSERT_TRUE(parsed.ok()) << parsed.error;
+    const sim::RunConfig& run = parsed.options.run;
+    EXPECT_EQ(run.games, 1000000000);
+    EXPECT_EQ(run.players, 6);
+    EXPECT_EQ(run.seed, 18446744073709551615ULL);
+    EXPECT_EQ(run.maxTurns, 7);
+    EXPECT_EQ(run.jobs, 3);
+    EXPECT_TRUE(run.check);
+    EXPECT_FALSE(parsed.options.help);
+    EXPECT_FALSE(parsed.options.signature);
+}
+
+TEST(SimOptions, WithNoOptionsTheRunHasItsDefaultsAndAJobACore) {
+    const sim::RunConfig run = parse("", 8).options.run;
+    EXPECT_EQ(run.games, 100);
+    EXPECT_EQ(run.players, 4);
+    EXPECT_EQ(run.seed, 1u);
+    EXPECT_EQ(run.maxTurns, 10000);
+    EXPECT_EQ(run.jobs, 8);
+    EXPECT_FALSE(run.check);
+    // A machine that cannot count its cores still plays on one thread.
+    EXPECT_EQ(parse("", 0).options.run.jobs, 1);
+}
+
+TEST(SimOptions, HelpWinsOverWhatFollowsIt) {
+    EXPECT_TRUE(parse("--help").options.help);
+    const sim::ParsedOptions parsed = parse("--games 5 --help --no-such-option");
+    EXPECT_TRUE(parsed.ok());
+    EXPECT_TRUE(parsed.options.help);
+}
+
+TEST(SimOptions, TheSignatureTakesTheSeedTheJobsAndTheChecksOnly) {
+    const sim::ParsedOptions parsed = parse("--signature --seed 4 --jobs 2 --check");
+    ASSERT_TRUE(parsed.ok()) << parsed.error;
+    EXPECT_TRUE(parsed.options.signature);
+    EXPECT_EQ(parsed.options.run.seed, 4u);
+    for (const char* line :
+         {"--signature --games 5", "--players 3 --signature", "--signature --max-turns 9"}) {
+        EXPECT_NE(parse(line).error.find("does not go with --signature"), std::string::npos)
+            << line;
+    }
+}
+
+TEST(SimOptions, EveryBadLineIsNamedWithWhatTheOptionAccepts) {
+    const std::string games = "a whole number from 1 to 1000000000";
+    const struct {
+        const char* line;
+        std::string error;
+    } cases[] = {
+        {"5", "'5' is not an option; options start with -- (see gildenway-sim --help)"},
+        {"-g 5", "'-g' is not an option; options start with -- (see gildenway-sim --help)"},
+        {"--games", "--games needs a value: " + games},
+        {"--games=", "--games needs a value: " + games},
+        {"--games --players 3", "--games needs a value: " + games},
+        {"--games abc", "--games takes " + games + ", not 'abc'"},
+        {"--games 12x", "--games takes " + games + ", not '12x'"},
+        {"--games -5", "--games takes " + games + ", not '-5'"},
+        {"--games +5", "--games takes " + games + ", not '+5'"},
+        {"--games 0", "--games takes " + games + ", not '0'"},
+        {"--games 1000000001", "--games takes " + games + ", not '1000000001'"},
+        {"--players 7", "--players takes a whole number from 2 to 6, not '7'"},
+        {"--players 1", "--players takes a whole number from 2 to 6, not '1'"},
+        {"--seed 18446744073709551616",
+         "--seed takes a whole number from 0 to 18446744073709551615, not "
+         "'18446744073709551616'"},
+        {"--seed -1", "--seed takes a whole number from 0 to 18446744073709551615, not '-1'"},
+        {"--max-turns 0", "--max-turns takes " + games + ", not '0'"},
+        {"--jobs 0", "--jobs takes a whole number from 1 to 1024, not '0'"},
+        {"--jobs 1025", "--jobs takes a whole number from 1 to 1024, not '1025'"},
+        {"--check=yes", "--check is a switch and takes no value"},
+        {"--games 3 --games=4", "--games is given twice"},
+        {"--gmaes 3",
+         "--gmaes is not an option; the options are --games, --players, --seed, --max-turns, "
+         "--jobs, --check, --signature, --help"},
+    };
+    for (const auto& c : cases) {
+        const sim::ParsedOptions parsed = parse(c.line);
+        EXPECT_FALSE(parsed.ok()) << c.line;
+        EXPECT_EQ(parsed.error, c.error) << c.line;
+        EXPECT_EQ(parsed.error.find('\n'), std::string::npos) << c.line;
+    }
+}
+
+}  // namespace
+}  // namespace gw::test

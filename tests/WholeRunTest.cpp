@@ -1,0 +1,140 @@
+// Whole runs of the program by clicks: humans buying, paying and trading, computers
+// playing to the end, the end window, a new game, and the end of the program from inside
+// a wait.
+#include "RunFixture.h"
+
+namespace gw::test {
+namespace {
+
+using WholeRun = RunFixture;
+
+// The windows that a new game loads anew, control by control, and which windows are up.
+// The cards are not reloaded: hidden, they keep their last text, but no player.
+struct Snapshot {
+    std::map<std::string, std::string> start, main, end, about;
+    std::vector<bool> shown;
+};
+
+Snapshot snapshot(GameRun& run) {
+    Windows& w = run.windows();
+    return {controlsOf(run.gameStart()),
+            controlsOf(run.mainWindow()),
+            controlsOf(run.gameEnd()),
+            controlsOf(run.about()),
+            {run.gameStart().isVisible(), run.mainWindow().isVisible(), run.gameEnd().isVisible(),
+             run.about().isVisible(), w.cellInfo.isVisible(), w.trading.isVisible(),
+             w.jflCard.isVisible(), w.taxCard.isVisible()}};
+}
+
+TEST_F(WholeRun, FourComputersPlayToTheEndThroughTheSetUpWindowAndANewGameIsAsAtLoad) {
+    const Snapshot atLoad = snapshot(*run);
+    for (int i = 0; i < 4; ++i) addPlayer("", 10 + i, true);
+    letsStart();  // the computers play until one is left
+
+    ASSERT_TRUE(run->gameEnd().isVisible());
+    EXPECT_FALSE(main().isVisible());
+    EXPECT_EQ(board().countSolvent(), 1);
+    const player* winner = nullptr;
+    for (int id = 0; id < 4; ++id) {
+        if (!seat(id).isBankrupt2()) winner = &seat(id);
+    }
+    ASSERT_NE(winner, nullptr);
+    EXPECT_EQ(run->gameEnd().Label1().caption,
+              winner->getName() + ", the richest person in Kestrovia!");
+    EXPECT_EQ(run->gameEnd().Image2(), std::stoi(winner->getTokenName()));
+
+    click([&] { main().Mute_Click(); });
+    rec.log.clear();
+    click([&] { run->gameEnd().Command1_Click(); });
+    const Snapshot now = snapshot(*run);
+    EXPECT_EQ(now.start, atLoad.start);
+    EXPECT_EQ(now.main, atLoad.main);
+    EXPECT_EQ(now.end, atLoad.end);
+    EXPECT_EQ(now.about, atLoad.about);
+    EXPECT_EQ(now.shown, atLoad.shown);
+    EXPECT_EQ(board().getNumPlayer(), 0);
+    EXPECT_EQ(rec.log, (Lines{"volume 0 -600", "volume 1 -600", "sound 3: gamestart.wav"}));
+    EXPECT_EQ(windows().cellInfo.cardPlayer(), nullptr);
+    EXPECT_EQ(windows().trading.tradeBuyer(), nullptr);
+    EXPECT_EQ(windows().taxCard.taxPlayer(), nullptr);
+
+    // The same board carries a second game.
+    addPlayer("Ann", 0);
+    addPlayer("Bob", 1);
+    letsStart();
+    EXPECT_TRUE(main().isVisible());
+    EXPECT_EQ(main().Label2(), "Ann");
+}
+
+TEST_F(WholeRun, HumansBuyRefusePayRentAndEndTurnsByClicks) {
+    addPlayer("Ann", 0);
+    addPlayer("Bob", 1);
+    letsStart();
+
+    nextThrow(1, 2);  // Ann to Saint-Jacques, 100
+    roll();
+    CellInfoWindow& card = windows().cellInfo;
+    ASSERT_TRUE(card.isVisible());
+    EXPECT_TRUE(card.buy().isOpen());
+    EXPECT_TRUE(card.forget().isOpen());
+    click([&] { card.buy_Click(); });
+    EXPECT_EQ(seat(0).getBalance(), 1400);
+    EXPECT_EQ(main().Label1(), "Ann has bought Saint-Jacques");
+    EXPECT_EQ(main().ownerMark(3), 0);
+    endTurn();
+    EXPECT_EQ(main().Label2(), "Bob");
+    EXPECT_EQ(main().Label1(), "Bob, its your turn to play.");
+
+    nextThrow(1, 2);  // Bob onto Ann's street: the rent card
+    roll();
+    ASSERT_TRUE(card.isVisible());
+    EXPECT_EQ(card.cardOpt(), kOptRent);
+    const Integer rent = board().propertyAt(3)->getRent();
+    EXPECT_EQ(card.payRent().caption, "Pay  " + std::to_string(rent));
+    EXPECT_EQ(main().Label1(), "Bob you owe $" + std::to_string(rent));
+    click([&] { main().endTurn_Click(); });  // not before the rent: the card again
+    EXPECT_EQ(main().Label2(), "Bob");
+    click([&] { card.payRent_Click(); });
+    EXPECT_EQ(seat(1).getBalance(), 1500 - rent);
+    EXPECT_EQ(seat(0).getBalance(), 1400 + rent);
+    endTurn();
+
+    nextThrow(2, 4);  // Ann to Bridge, 150: she lets it go
+    roll();
+    click([&] { card.forget_Click(); });
+    EXPECT_EQ(board().propertyAt(9)->getProp().getOwners(), nullptr);
+    EXPECT_FALSE(card.isVisible());
+    endTurn();
+    EXPECT_EQ(main().Label2(), "Bob");
+}
+
+TEST_F(WholeRun, ExitInsideAComputersCardWaitStopsTheRunAndEndsTheProgram) {
+    addPlayer("", 0, true);
+    addPlayer("", 1, true);
+    int turns = 0;
+    board().setOnTurnPlayed([&] { return ++turns < 10000 && !run->isWindingDown(); });
+    rec.duringWaitTicks = kComputerThinkTicks;
+    rec.duringWait = [&] { click([&] { main().Exit_Click(); }); };
+    letsStart();
+    EXPECT_EQ(exits, 1);
+    EXPECT_TRUE(run->hasExited());
+    EXPECT_LE(turns, 1);
+    const int waits = rec.waits;
+    click([&] { main().rollDice_Click(); });  // nothing runs after the end
+    EXPECT_EQ(rec.waits, waits);
+}
+
+TEST_F(WholeRun, AboutShowsBesideTheBoardAndOkHidesIt) {
+    addPlayer("Ann", 0);
+    addPlayer("Bob", 1);
+    letsStart();
+    click([&] { main().About_Click(); });
+    EXPECT_TRUE(run->about().isVisible());
+    EXPECT_TRUE(main().isVisible());
+    EXPECT_EQ(controlsOf(run->about())["Label4"], "Implementation Team");
+    click([&] { run->about().Command1_Click(); });
+    EXPECT_FALSE(run->about().isVisible());
+}
+
+}  // namespace
+}  // namespace gw::test

@@ -1,0 +1,265 @@
+// A person's way through the program with the mouse and keyboard: seating players past
+// both refusals, a roll and a purchase on the property card, a computer's turn with its
+// card up, the About box, the end window, a new game, and closing in the middle of a wait.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTimer>
+
+#include "GuiRun.h"
+#include "cells/PropertyCell.h"
+#include "game/Board.h"
+#include "players/player.h"
+
+namespace gw::test {
+namespace {
+
+class GameFlow : public ::testing::Test {
+protected:
+    GameFlow() {
+        auto random = std::make_unique<ScriptedRandom>(std::vector<double>{}, 7);
+        scripted = random.get();
+        gui = std::make_unique<GuiRun>(std::move(random));
+    }
+
+    app::Program& program() { return *gui->program; }
+    view::GameStartView& start() { return program().startView(); }
+    QAbstractButton& button(const view::ControlSet& set, std::string_view name) {
+        QAbstractButton* b = set.button(name);
+        EXPECT_NE(b, nullptr) << name;
+        return *b;
+    }
+    QLineEdit& nickName() { return *start().controls().entry("NickName"); }
+
+    // Replaces the name in the entry by typing, as a person does after clicking into it.
+    void typeName(const QString& text) {
+        QLineEdit& entry = nickName();
+        entry.setFocus();
+        entry.selectAll();
+        if (text.isEmpty()) {
+            QTest::keyClick(&entry, Qt::Key_Backspace);
+        } else {
+            QTest::keyClicks(&entry, text);
+        }
+        gui->settle();
+    }
+    void click(QWidget& w) {
+        clickOn(w);
+        gui->settle();
+    }
+
+    // Ann, a human with token 0, and Computer1 with token 1; then Let's Start.
+    void seatAnnAndComputer() {
+        typeName("Ann");
+        click(start().token(0));
+        click(button(start().controls(), "Command1"));
+        typeName("Robot");  // the entry's text is compared for a computer too
+        click(start().image(1));
+        click(start().token(1));
+        click(button(start().controls(), "Command1"));
+        click(button(start().controls(), "Command2"));
+        ASSERT_EQ(gui->run.board().getNumPlayer(), 2);
+        ASSERT_TRUE(program().mainView().isVisible());
+    }
+
+    player& current() { return gui->run.board().getCurrPlayer(); }
+
+    // Makes the next throw, by the given player, land on an unowned buyable cell.
+    Integer scriptLandingOnFreeProperty(const player& thrower) {
+        const Integer from = thrower.getPosition();
+        for (int a = 1; a <= 6; ++a) {
+            for (int b = 1; b <= 6; ++b) {
+                if (a == b) continue;
+                const auto to = static_cast<Integer>((from + a + b) % 40);
+                PropertyCell* cell = gui->run.board().propertyAt(to);
+                if (cell && cell->getProp().getOwners() == nullptr &&
+                    cell->getProp().getPrice() <= thrower.getBalance()) {
+                    scripted->pushFaces({a, b});
+                    return to;
+                }
+            }
+        }
+        ADD_FAILURE() << "no free cell in reach";
+        return from;
+    }
+
+    ScriptedRandom* scripted = nullptr;
+    std::unique_ptr<GuiRun> gui;
+};
+
+TEST_F(GameFlow, SeatingMeetsBothRefusalsThenStartsTheGame) {
+    typeName("Ann");
+    EXPECT_EQ(gui->run.gameStart().nickName(), "Ann");
+    click(start().token(0));
+    EXPECT_TRUE(start().token(0).isBordered());
+    click(button(start().controls(), "Command1"));
+    EXPECT_EQ(start().controls().label("Label1")->text(), "Ann");
+    EXPECT_FALSE(start().token(0).isVisibleTo(&start()));
+
+    // A computer with the name still in the entry: the same text is refused.
+    click(start().image(1));
+    EXPECT_FALSE(nickName().isEnabled());
+    click(start().token(1));
+    click(button(start().controls(), "Command1"));
+    ASSERT_EQ(gui->messages.shown.size(), 1u);
+    EXPECT_EQ(gui->messages.shown[0].title, "Error");
+    EXPECT_EQ(gui->messages.shown[0].text, "You cannot enter the same name twice");
+    EXPECT_FALSE(button(start().controls(), "Command1").isVisibleTo(&start()));
+
+    // Back to a human to change the text, then a computer again.
+    click(start().image(4));
+    typeName("Ann's robot");
+    click(start().image(1));
+    click(start().token(1));
+    click(button(start().controls(), "Command1"));
+    EXPECT_EQ(start().controls().label("Label2")->text(), "Computer1");
+    EXPECT_TRUE(button(start().controls(), "Command2").isVisibleTo(&start()));
+
+    // An empty name is refused for any kind of player.
+    click(start().image(4));
+    typeName("");
+    EXPECT_EQ(nickName().text(), "");
+    click(start().token(2));
+    click(button(start().controls(), "Command1"));
+    ASSERT_EQ(gui->messages.shown.size(), 2u);
+    EXPECT_EQ(gui->messages.shown[1].text, "You must enter a name for this player");
+
+    click(button(start().controls(), "Command2"));
+    EXPECT_FALSE(start().isVisible());
+    EXPECT_TRUE(program().mainView().isVisible());
+    EXPECT_EQ(gui->run.board().getNumPlayer(), 2);
+}
+
+TEST_F(GameFlow, NameEntryTakesTwentyCharactersAtMost) {
+    typeName("abcdefghijklmnopqrstuvwxyz");
+    EXPECT_EQ(gui->run.gameStart().nickName(), "abcdefghijklmnopqrst");
+    EXPECT_EQ(nickName().text(), "abcdefghijklmnopqrst");
+}
+
+TEST_F(GameFlow, HumanBuysOnTheCardThenWatchesTheComputerPlay) {
+    ASSERT_NO_FATAL_FAILURE(seatAnnAndComputer());
+    ASSERT_EQ(current().getName(), "Ann");  // the computer's first turn ran inside Let's Start
+    const view::ControlSet& main = program().mainView().controls();
+    EXPECT_TRUE(button(main, "rollDice").isEnabled());
+    EXPECT_FALSE(button(main, "endTurn").isEnabled());
+    savePictures(program().mainView(), "main-start");
+
+    const Integer target = scriptLandingOnFreeProperty(current());
+    click(button(main, "rollDice"));
+    EXPECT_EQ(current().getPosition(), target);
+    view::CellInfoView& card = program().propertyCard();
+    ASSERT_TRUE(card.isVisible());
+    QAbstractButton& buy = button(card.controls(), "buy");
+    EXPECT_TRUE(buy.isVisibleTo(&card));
+    EXPECT_TRUE(buy.isEnabled());
+    EXPECT_EQ(card.controls().label("Label1")->text().toStdString(),
+              gui->run.windows().cellInfo.cardName());
+    savePictures(card, "property-card-buy");
+    savePictures(program().mainView(), "main-card-up");
+
+    click(buy);
+    EXPECT_FALSE(card.isVisible());
+    EXPECT_EQ(gui->run.board().propertyAt(target)->getProp().getOwners(), &current());
+    EXPECT_EQ(gui->run.mainWindow().ownerMark(target), 0);  // Ann's token
+    EXPECT_TRUE(button(main, "endTurn").isEnabled());
+
+    // The computer's turn runs inside End Turn; its card comes up with no open button.
+    bool sawComputerCard = false;
+    bool computerCardHadOpenButton = false;
+    program().setOnRefreshed([&] {
+        if (!card.isVisible() || !current().isComputer2()) return;
+        sawComputerCard = true;
+        for (const view::Place& place : view::propertyCardPlaces()) {
+            QAbstractButton* b = card.controls().button(place.name);
+            if (b && b->isVisibleTo(&card) && b->isEnabled()) computerCardHadOpenButton = true;
+        }
+    });
+    scriptLandingOnFreeProperty(*gui->run.board().getPlayer(1 - current().getId()));
+    click(button(main, "endTurn"));
+    program().setOnRefreshed({});
+    EXPECT_TRUE(sawComputerCard);
+    EXPECT_FALSE(computerCardHadOpenButton);
+    EXPECT_EQ(current().getName(), "Ann");
+    EXPECT_EQ(program().mainView().controls().label("Label1")->text(),
+              "Ann, its your turn to play.");
+    savePictures(program().mainView(), "main-after-computer");
+}
+
+TEST_F(GameFlow, AboutOpensFromTheMenuAndOkHidesIt) {
+    ASSERT_NO_FATAL_FAILURE(seatAnnAndComputer());
+    program().mainView().action("About").trigger();
+    gui->settle();
+    ASSERT_TRUE(program().aboutView().isVisible());
+    EXPECT_EQ(program().aboutView().controls().label("Label1")->text(), "Requirements Team");
+    savePictures(program().aboutView(), "about");
+    click(button(program().aboutView().controls(), "Command1"));
+    EXPECT_FALSE(program().aboutView().isVisible());
+    EXPECT_TRUE(program().mainView().isVisible());
+}
+
+TEST_F(GameFlow, BankruptcyShowsTheWinnerAndANewGameBringsTheSetUpBack) {
+    ASSERT_NO_FATAL_FAILURE(seatAnnAndComputer());
+    program().dispatch().click([&] { current().declareBankruptcy(); });
+    gui->settle();
+    view::GameEndView& end = program().endView();
+    ASSERT_TRUE(end.isVisible());
+    EXPECT_FALSE(program().mainView().isVisible());
+    EXPECT_EQ(end.controls().label("Label1")->text(),
+              "Computer1, the richest person in Kestrovia!");
+    const QLabel& winner = *end.controls().label("Label1");
+    EXPECT_LE(QFontMetrics(winner.font()).horizontalAdvance(winner.text()), winner.width());
+    savePictures(end, "game-over");
+
+    click(button(end.controls(), "Command1"));
+    EXPECT_FALSE(end.isVisible());
+    EXPECT_FALSE(program().mainView().isVisible());
+    ASSERT_TRUE(start().isVisible());
+    // As at load: every token back, no players listed, no buttons, the entry's first text.
+    for (int i = 0; i < kTokenCount; ++i) EXPECT_TRUE(start().token(i).isVisibleTo(&start()));
+    for (int i = kFirstSlot; i < kTokenControls; ++i) {
+        EXPECT_FALSE(start().token(i).isVisibleTo(&start()));
+    }
+    EXPECT_FALSE(button(start().controls(), "Command1").isVisibleTo(&start()));
+    EXPECT_FALSE(button(start().controls(), "Command2").isVisibleTo(&start()));
+    EXPECT_FALSE(start().controls().label("Label1")->isVisibleTo(&start()));
+    EXPECT_EQ(nickName().text(), "Enter your name here");
+    EXPECT_TRUE(nickName().isEnabled());
+}
+
+TEST_F(GameFlow, ExitFromTheMenuEndsTheRun) {
+    ASSERT_NO_FATAL_FAILURE(seatAnnAndComputer());
+    program().mainView().action("Exit").trigger();
+    EXPECT_TRUE(gui->exited);
+}
+
+// Closing the main window while a computer's card waits with the real 80 ms tick: the wait
+// is cut short, no further turn starts, and the run ends.
+TEST(ClosingDuringAWait, EndsTheRunCleanly) {
+    GuiRun gui(std::make_unique<SeededRandom>(11), kTickMs);
+    app::Program& program = *gui.program;
+    bool closed = false;
+    program.setOnRefreshed([&] {
+        const bool cardUp = program.propertyCard().isVisible() || program.jflCard().isVisible() ||
+                            program.taxCard().isVisible();
+        if (cardUp && !closed) {
+            closed = true;
+            QTimer::singleShot(0, &program.mainView(), [&] { program.mainView().close(); });
+        }
+    });
+    GameStart& setUp = gui.run.gameStart();
+    for (int i = 0; i < 2; ++i) {
+        program.dispatch().click([&] { setUp.Token_Click(i); });
+        if (!setUp.nextIsComputer()) program.dispatch().click([&] { setUp.Image1_Click(); });
+        program.dispatch().click([&] { setUp.Command1_Click(); });
+    }
+    program.dispatch().click([&] { setUp.Command2_Click(); });
+    EXPECT_TRUE(closed);
+    EXPECT_TRUE(gui.exited);
+    EXPECT_EQ(gui.delay.depth(), 0);
+    EXPECT_EQ(gui.run.board().countSolvent(), 2);  // the game stopped, it did not play on
+}
+
+}  // namespace
+}  // namespace gw::test

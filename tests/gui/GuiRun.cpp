@@ -1,0 +1,22 @@
+#include "GuiRun.h"
+
+#include <QDir>
+#include <QPainter>
+#include <QPixmap>
+
+namespace gw::test {
+
+void savePictures(QWidget& window, const std::string& name) {
+    const QString dir = QDir::tempPath() + QStringLiteral("/gildenway-gui");
+    QDir().mkpath(dir);
+    const QString base = dir + QLatin1Char('/') + QString::fromStdString(name);
+    window.grab().save(base + QStringLiteral("@1x.png"));
+    // The same window painted at twice the pixel ratio, as on a high-density screen.
+    QPixmap twice(window.size() * 2);
+    twice.setDevicePixelRatio(2);
+    twice.fill(Qt::transparent);
+    window.render(&twice);
+    twice.save(base + QStringLiteral("@2x.png"));
+}
+
+}  // namespace gw::test

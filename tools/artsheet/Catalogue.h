@@ -1,0 +1,30 @@
+// Every picture of the game with its size and a call that paints it: the contact sheets
+// show this list and the tests walk it.
+#pragma once
+
+#include <QRectF>
+#include <QSize>
+#include <QString>
+#include <functional>
+#include <vector>
+
+#include "art/BoardCell.h"
+#include "art/Text.h"
+
+class QPainter;
+
+namespace gw::art {
+
+struct PictureEntry {
+    QString group;  // the window it belongs to; one contact sheet per group
+    QString name;
+    QSize size;
+    std::function<TextBoxes(QPainter&, const QRectF&)> paint;
+};
+
+// The faces of the forty board cells, in ring order.
+std::vector<CellFace> boardFaces();
+
+std::vector<PictureEntry> catalogue();
+
+}  // namespace gw::art
