@@ -31,19 +31,19 @@ bool hasEmblem(CellKind k) {
            k == CellKind::Tax || k == CellKind::Jfl;
 }
 
-void paintEmblem(TextBoxes& out, QPainter& p, const QRectF& r, CellKind k) {
+void paintCellEmblem(TextBoxes& out, QPainter& p, const QRectF& r, CellKind k) {
     switch (k) {
         case CellKind::Metro:
-            paintTrainFront(p, r);
+            paintEmblem(p, r, Emblem::TrainFront);
             break;
         case CellKind::UtilityBulb:
-            paintBulb(p, r);
+            paintEmblem(p, r, Emblem::Bulb);
             break;
         case CellKind::UtilityTower:
-            paintTower(p, r);
+            paintEmblem(p, r, Emblem::Tower);
             break;
         case CellKind::Tax:
-            paintCoinStack(p, r);
+            paintEmblem(p, r, Emblem::CoinStack);
             break;
         case CellKind::Jfl:
             out.push_back(paintJflSeal(p, r));
@@ -93,7 +93,7 @@ void paintColumnLayout(TextBoxes& out, QPainter& p, const QRectF& content, const
                                   : QRectF(rest.left(), rest.top(), rest.width(),
                                            used.top() - rest.top() - 1);
     }
-    if (emblem) paintEmblem(out, p, emblemBox.adjusted(2, 2, -2, -2), f.kind);
+    if (emblem) paintCellEmblem(out, p, emblemBox.adjusted(2, 2, -2, -2), f.kind);
     if (!price.isEmpty()) drawText(out, p, priceBox, price, priceStyle());
 }
 
@@ -102,7 +102,7 @@ void paintColumnLayout(TextBoxes& out, QPainter& p, const QRectF& content, const
 void paintRowLayout(TextBoxes& out, QPainter& p, const QRectF& content, const CellFace& f,
                     bool outerAtLeft) {
     if (f.kind == CellKind::Jfl) {
-        paintEmblem(out, p, content.adjusted(2, 2, -2, -2), f.kind);
+        paintCellEmblem(out, p, content.adjusted(2, 2, -2, -2), f.kind);
         return;
     }
     const bool emblem = hasEmblem(f.kind);
@@ -122,7 +122,7 @@ void paintRowLayout(TextBoxes& out, QPainter& p, const QRectF& content, const Ce
     const qreal left = row.center().x() - groupW / 2;
     const QRectF icon = outerAtLeft ? QRectF(left, row.top(), rowH, rowH)
                                     : QRectF(left + groupW - rowH, row.top(), rowH, rowH);
-    paintEmblem(out, p, icon, f.kind);
+    paintCellEmblem(out, p, icon, f.kind);
     if (!price.isEmpty()) {
         const QRectF priceBox =
             outerAtLeft ? QRectF(icon.right() + 3, row.top(), row.right() - icon.right() - 3, rowH)
@@ -147,25 +147,29 @@ void paintCorner(TextBoxes& out, QPainter& p, const QRectF& r, const CellFace& f
             drawText(
                 out, p, QRectF(inner.left(), inner.top() + 2, inner.width(), 26), f.name,
                 TextStyle{Face::Title, 26, colour::moneyMinus.darker(110), Qt::AlignCenter, 1, 9});
-            paintGoArrow(p, QRectF(inner.left() + 6, inner.top() + 30, inner.width() - 12, 26));
+            paintEmblem(p, QRectF(inner.left() + 6, inner.top() + 30, inner.width() - 12, 26),
+                        Emblem::GoArrow);
             drawText(out, p, QRectF(inner.left(), inner.bottom() - 14, inner.width(), 12),
                      QStringLiteral("Start here"), small);
             break;
         }
         case CellKind::Jail:
-            paintJailBars(p, QRectF(inner.left() + 12, inner.top(), inner.width() - 24, 52));
+            paintEmblem(p, QRectF(inner.left() + 12, inner.top(), inner.width() - 24, 52),
+                        Emblem::JailBars);
             drawText(out, p, QRectF(inner.left(), inner.bottom() - 22, inner.width(), 22), f.name,
                      big);
             break;
         case CellKind::FreeStop:
-            paintStadiumArch(p, QRectF(inner.left() + 10, inner.top(), inner.width() - 20, 40));
+            paintEmblem(p, QRectF(inner.left() + 10, inner.top(), inner.width() - 20, 40),
+                        Emblem::StadiumArch);
             drawText(out, p, QRectF(inner.left(), inner.top() + 41, inner.width(), 22), f.name,
                      caption);
             drawText(out, p, QRectF(inner.left(), inner.bottom() - 12, inner.width(), 12),
                      QStringLiteral("Free stop"), small);
             break;
         case CellKind::Police:
-            paintPoliceCap(p, QRectF(inner.left() + 10, inner.top() + 2, inner.width() - 20, 40));
+            paintEmblem(p, QRectF(inner.left() + 10, inner.top() + 2, inner.width() - 20, 40),
+                        Emblem::PoliceCap);
             drawText(out, p, QRectF(inner.left(), inner.top() + 42, inner.width(), 18), f.name,
                      TextStyle{Face::Title, 15, colour::teal, Qt::AlignCenter, 1, 9});
             drawText(out, p, QRectF(inner.left(), inner.bottom() - 12, inner.width(), 12),

@@ -97,7 +97,7 @@ TextBoxes paintBoardCentre(QPainter& p, const QRectF& rect) {
     p.fillRect(QRectF(map.left(), map.bottom() - 70, map.width(), 70), ground);
     paintSkyline(p, QRectF(map.left(), map.bottom() - 62, map.width(), 62),
                  colour::withAlpha(colour::teal, 215));
-    paintCompassRose(p, QRectF(map.right() - 62, map.bottom() - 136, 52, 52));
+    paintEmblem(p, QRectF(map.right() - 62, map.bottom() - 136, 52, 52), Emblem::CompassRose);
 
     // The cartouche with the titles.
     const QRectF card(56, 150, 330, 118);

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "art/Palette.h"
+#include "art/Paths.h"
 
 namespace gw::art {
 
@@ -47,13 +48,27 @@ QBrush shadedBrush(const QColor& colour, const QRectF& over, int lighter, int da
     return QBrush(g);
 }
 
+QBrush creamWash(const QRectF& over, int lighter) {
+    QLinearGradient g(over.topLeft(), over.bottomLeft());
+    g.setColorAt(0, colour::cream.lighter(lighter));
+    g.setColorAt(1, colour::cream);
+    return QBrush(g);
+}
+
+void paintFramedPlate(QPainter& p, const QRectF& rect, qreal radius, const QPen& edge,
+                      const QBrush& fill, const QColor& hairline) {
+    p.setPen(edge);
+    p.setBrush(fill);
+    p.drawRoundedRect(rect, radius, radius);
+    p.setPen(pen(hairline, 1));
+    p.setBrush(Qt::NoBrush);
+    p.drawRoundedRect(rect.adjusted(3, 3, -3, -3), radius - 2, radius - 2);
+}
+
 void paintCardStock(QPainter& p, const QRectF& rect, qreal radius) {
     p.save();
     const QRectF r = rect.adjusted(0.5, 0.5, -0.5, -0.5);
-    QLinearGradient g(r.topLeft(), r.bottomLeft());
-    g.setColorAt(0, colour::cream.lighter(103));
-    g.setColorAt(1, colour::cream);
-    p.setBrush(g);
+    p.setBrush(creamWash(r));
     p.setPen(pen(colour::ink, 1));
     p.drawRoundedRect(r, radius, radius);
     p.restore();
@@ -66,23 +81,26 @@ void paintPanel(QPainter& p, const QRectF& rect) {
     p.setBrush(colour::teal);
     p.drawRoundedRect(outer, 7, 7);
     const QRectF inner = outer.adjusted(4, 4, -4, -4);
-    QLinearGradient g(inner.topLeft(), inner.bottomLeft());
-    g.setColorAt(0, colour::cream.lighter(103));
-    g.setColorAt(1, colour::cream);
-    p.setBrush(g);
+    p.setBrush(creamWash(inner));
     p.setPen(pen(colour::gold, 1.2));
     p.drawRoundedRect(inner, 4, 4);
     p.restore();
 }
 
+void paintWindowPaper(QPainter& p, QSizeF size) {
+    const QRectF whole(QPointF(0, 0), size);
+    p.fillRect(whole, colour::teal);
+    p.setPen(pen(colour::gold, 1.5));
+    p.setBrush(creamWash(whole, 104));
+    p.drawRoundedRect(whole.adjusted(4, 4, -4, -4), 8, 8);
+}
+
 void paintDiamond(QPainter& p, QPointF c, qreal size, const QColor& colour) {
-    QPainterPath d;
-    d.moveTo(c.x(), c.y() - size);
-    d.lineTo(c.x() + size, c.y());
-    d.lineTo(c.x(), c.y() + size);
-    d.lineTo(c.x() - size, c.y());
-    d.closeSubpath();
-    p.fillPath(d, colour);
+    p.fillPath(polygon({{c.x(), c.y() - size},
+                        {c.x() + size, c.y()},
+                        {c.x(), c.y() + size},
+                        {c.x() - size, c.y()}}),
+               colour);
 }
 
 void paintGoldRule(QPainter& p, QPointF from, QPointF to) {

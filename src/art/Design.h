@@ -34,11 +34,22 @@ QPen pen(const QColor& colour, qreal width);
 // A top-left to bottom-right wash from a lighter to a darker shade of colour.
 QBrush shadedBrush(const QColor& colour, const QRectF& over, int lighter = 135, int darker = 112);
 
+// Cream paper, a shade lighter at the top of over than at its bottom.
+QBrush creamWash(const QRectF& over, int lighter = 103);
+
+// A plate with a hairline three units inside its edge: title bands, buttons, frames.
+void paintFramedPlate(QPainter& p, const QRectF& rect, qreal radius, const QPen& edge,
+                      const QBrush& fill, const QColor& hairline);
+
 // Card stock: a rounded cream shape with an ink edge.
 void paintCardStock(QPainter& p, const QRectF& rect, qreal radius);
 
 // A panel of the main window: cream, teal rim, gold hairline inside.
 void paintPanel(QPainter& p, const QRectF& rect);
+
+// The background of a window drawn at its design size: a sheet of cream paper edged in gold
+// on the teal ground.
+void paintWindowPaper(QPainter& p, QSizeF size);
 
 // A small gold diamond used as an ornament between rules.
 void paintDiamond(QPainter& p, QPointF centre, qreal size, const QColor& colour);

@@ -13,6 +13,7 @@
 
 #include "art/Design.h"
 #include "art/Palette.h"
+#include "art/Paths.h"
 
 namespace gw::art {
 
@@ -26,16 +27,13 @@ qreal outline(const DesignSpace& ds) {
 
 const QColor kMetroBody{0x3E, 0x55, 0x9C};
 const QColor kSteel{0xB8, 0xBE, 0xC2};
-const QColor kBrick{0xB8, 0x4A, 0x34};
 const QColor kArrowRed{0xC8, 0x4B, 0x31};
 const QColor kPoliceBlue{0x23, 0x33, 0x5C};
 const QColor kGlass{0xCF, 0xE6, 0xEA};
 
-}  // namespace
+// Each emblem below draws in the design square; w is the ink outline's width there.
 
-void paintTrainFront(QPainter& p, const QRectF& rect) {
-    DesignSpace ds(p, rect, kSquare);
-    const qreal w = outline(ds);
+void paintTrainFront(QPainter& p, qreal w) {
     p.setPen(inkPen(w));
     // Rails under the car.
     p.drawLine(QPointF(14, 94), QPointF(86, 94));
@@ -55,9 +53,7 @@ void paintTrainFront(QPainter& p, const QRectF& rect) {
     p.drawRect(QRectF(42, 62, 16, 8));
 }
 
-void paintBulb(QPainter& p, const QRectF& rect) {
-    DesignSpace ds(p, rect, kSquare);
-    const qreal w = outline(ds);
+void paintBulb(QPainter& p, qreal w) {
     p.setPen(pen(colour::gold, w));
     for (int i = 0; i < 5; ++i) {
         const qreal a = std::numbers::pi * (1.0 + 0.25 * i);
@@ -65,13 +61,10 @@ void paintBulb(QPainter& p, const QRectF& rect) {
         p.drawLine(c + QPointF(std::cos(a) * 36, std::sin(a) * 36),
                    c + QPointF(std::cos(a) * 45, std::sin(a) * 45));
     }
-    QPainterPath glass;
-    glass.moveTo(40, 66);
-    glass.cubicTo(38, 56, 24, 52, 24, 38);
-    glass.cubicTo(24, 22, 36, 12, 50, 12);
-    glass.cubicTo(64, 12, 76, 22, 76, 38);
-    glass.cubicTo(76, 52, 62, 56, 60, 66);
-    glass.closeSubpath();
+    const QPainterPath glass = closedCurve({40, 66}, {{{38, 56}, {24, 52}, {24, 38}},
+                                                      {{24, 22}, {36, 12}, {50, 12}},
+                                                      {{64, 12}, {76, 22}, {76, 38}},
+                                                      {{76, 52}, {62, 56}, {60, 66}}});
     QRadialGradient g(QPointF(44, 32), 34);
     g.setColorAt(0, QColor(0xFF, 0xF8, 0xD8));
     g.setColorAt(1, colour::goldLight);
@@ -81,12 +74,7 @@ void paintBulb(QPainter& p, const QRectF& rect) {
     p.setBrush(Qt::NoBrush);
     p.setPen(pen(colour::goldDeep, w));
     QPainterPath filament;
-    filament.moveTo(43, 64);
-    filament.lineTo(44, 44);
-    filament.lineTo(48, 38);
-    filament.lineTo(52, 44);
-    filament.lineTo(56, 38);
-    filament.lineTo(57, 64);
+    addPolyline(filament, {{43, 64}, {44, 44}, {48, 38}, {52, 44}, {56, 38}, {57, 64}});
     p.drawPath(filament);
     p.setPen(inkPen(w));
     p.setBrush(shadedBrush(kSteel, QRectF(40, 66, 20, 20)));
@@ -97,23 +85,14 @@ void paintBulb(QPainter& p, const QRectF& rect) {
     p.drawRoundedRect(QRectF(45, 84, 10, 7), 3, 3);
 }
 
-void paintTower(QPainter& p, const QRectF& rect) {
-    DesignSpace ds(p, rect, kSquare);
-    const qreal w = outline(ds);
+void paintTower(QPainter& p, const DesignSpace& ds, qreal w) {
     p.setPen(inkPen(w));
     // Two low neighbours make it read as a tower in a city, not a pencil.
     p.setBrush(shadedBrush(colour::tealLight, QRectF(14, 56, 22, 36)));
     p.drawRect(QRectF(14, 58, 20, 34));
     p.drawRect(QRectF(66, 50, 20, 42));
-    QPainterPath tower;
-    tower.moveTo(36, 92);
-    tower.lineTo(40, 24);
-    tower.lineTo(50, 14);
-    tower.lineTo(60, 24);
-    tower.lineTo(64, 92);
-    tower.closeSubpath();
     p.setBrush(shadedBrush(colour::teal, QRectF(36, 14, 28, 78), 150, 110));
-    p.drawPath(tower);
+    p.drawPath(polygon({{36, 92}, {40, 24}, {50, 14}, {60, 24}, {64, 92}}));
     p.drawLine(QPointF(50, 14), QPointF(50, 3));
     p.setBrush(colour::gold);
     p.drawEllipse(QPointF(50, 4), 2.5, 2.5);
@@ -129,9 +108,7 @@ void paintTower(QPainter& p, const QRectF& rect) {
     p.drawRect(QRectF(8, 90, 84, 5));
 }
 
-void paintCoinStack(QPainter& p, const QRectF& rect) {
-    DesignSpace ds(p, rect, kSquare);
-    const qreal w = outline(ds);
+void paintCoinStack(QPainter& p, qreal w) {
     auto coin = [&](qreal cx, qreal top, qreal rx) {
         const qreal ry = rx * 0.32;
         const qreal thick = rx * 0.26;
@@ -157,52 +134,13 @@ void paintCoinStack(QPainter& p, const QRectF& rect) {
     for (int i = 0; i < 3; ++i) coin(72, 86 - i * 9, 20);
 }
 
-TextBox paintJflSeal(QPainter& p, const QRectF& rect) {
-    DesignSpace ds(p, rect, kSquare);
-    const qreal w = outline(ds);
-    QPainterPath burst;
-    constexpr int kPoints = 28;
-    for (int i = 0; i < kPoints * 2; ++i) {
-        const qreal a = std::numbers::pi * i / kPoints;
-        const qreal r = (i % 2 == 0) ? 48 : 43;
-        const QPointF pt(50 + std::cos(a) * r, 50 + std::sin(a) * r);
-        if (i == 0)
-            burst.moveTo(pt);
-        else
-            burst.lineTo(pt);
-    }
-    burst.closeSubpath();
+void paintGoArrow(QPainter& p, qreal w) {
     p.setPen(inkPen(w));
-    p.setBrush(shadedBrush(colour::gold, QRectF(2, 2, 96, 96), 125, 110));
-    p.drawPath(burst);
-    p.setBrush(shadedBrush(colour::teal, QRectF(12, 12, 76, 76), 130, 115));
-    p.drawEllipse(QPointF(50, 50), 38, 38);
-    p.setBrush(Qt::NoBrush);
-    p.setPen(pen(colour::goldLight, w));
-    p.drawEllipse(QPointF(50, 50), 33, 33);
-    TextStyle st{Face::Title, 30, colour::goldLight, Qt::AlignCenter, 1, 7};
-    return drawText(p, QRectF(20, 30, 60, 40), QStringLiteral("JFL"), st);
-}
-
-void paintGoArrow(QPainter& p, const QRectF& rect) {
-    DesignSpace ds(p, rect, kSquare);
-    QPainterPath arrow;
-    arrow.moveTo(6, 50);
-    arrow.lineTo(40, 18);
-    arrow.lineTo(40, 36);
-    arrow.lineTo(94, 36);
-    arrow.lineTo(94, 64);
-    arrow.lineTo(40, 64);
-    arrow.lineTo(40, 82);
-    arrow.closeSubpath();
-    p.setPen(inkPen(outline(ds)));
     p.setBrush(shadedBrush(kArrowRed, QRectF(6, 18, 88, 64)));
-    p.drawPath(arrow);
+    p.drawPath(polygon({{6, 50}, {40, 18}, {40, 36}, {94, 36}, {94, 64}, {40, 64}, {40, 82}}));
 }
 
-void paintJailBars(QPainter& p, const QRectF& rect) {
-    DesignSpace ds(p, rect, kSquare);
-    const qreal w = outline(ds);
+void paintJailBars(QPainter& p, qreal w) {
     p.setPen(inkPen(w));
     p.setBrush(shadedBrush(colour::creamShade, QRectF(8, 8, 84, 84), 105, 120));
     p.drawRoundedRect(QRectF(8, 8, 84, 84), 6, 6);
@@ -213,9 +151,7 @@ void paintJailBars(QPainter& p, const QRectF& rect) {
     p.drawRect(QRectF(18, 44, 64, 6));
 }
 
-void paintStadiumArch(QPainter& p, const QRectF& rect) {
-    DesignSpace ds(p, rect, kSquare);
-    const qreal w = outline(ds);
+void paintStadiumArch(QPainter& p, qreal w) {
     // The city's stadium: an oval bowl with a leaning tower holding its roof by cables.
     p.setPen(inkPen(w));
     p.setBrush(shadedBrush(colour::teal, QRectF(10, 56, 84, 36), 140, 110));
@@ -224,14 +160,8 @@ void paintStadiumArch(QPainter& p, const QRectF& rect) {
     p.drawEllipse(QRectF(24, 63, 60, 22));
     p.setBrush(colour::park);
     p.drawEllipse(QRectF(34, 67, 40, 14));
-    QPainterPath tower;
-    tower.moveTo(10, 80);
-    tower.lineTo(24, 80);
-    tower.lineTo(46, 14);
-    tower.lineTo(38, 8);
-    tower.closeSubpath();
     p.setBrush(shadedBrush(colour::cream, QRectF(10, 8, 36, 72), 105, 118));
-    p.drawPath(tower);
+    p.drawPath(polygon({{10, 80}, {24, 80}, {46, 14}, {38, 8}}));
     p.setPen(pen(colour::ink, w * 0.6));
     for (int i = 0; i < 5; ++i) {
         const qreal t = 0.18 + i * 0.09;
@@ -243,18 +173,10 @@ void paintStadiumArch(QPainter& p, const QRectF& rect) {
     p.drawRect(QRectF(33, 20, 8, 4));
 }
 
-void paintPoliceCap(QPainter& p, const QRectF& rect) {
-    DesignSpace ds(p, rect, kSquare);
-    const qreal w = outline(ds);
+void paintPoliceCap(QPainter& p, qreal w) {
     p.setPen(inkPen(w));
-    QPainterPath crown;
-    crown.moveTo(24, 62);
-    crown.lineTo(10, 34);
-    crown.cubicTo(10, 20, 90, 20, 90, 34);
-    crown.lineTo(76, 62);
-    crown.closeSubpath();
     p.setBrush(shadedBrush(kPoliceBlue, QRectF(10, 20, 80, 42), 170, 110));
-    p.drawPath(crown);
+    p.drawPath(hatCrown({24, 62}, {10, 34}, {{10, 20}, {90, 20}, {90, 34}}, {76, 62}));
     p.setBrush(colour::ink);
     p.drawRect(QRectF(24, 56, 52, 10));
     QPainterPath visor;
@@ -274,10 +196,8 @@ void paintPoliceCap(QPainter& p, const QRectF& rect) {
     p.drawPath(shield);
 }
 
-void paintCompassRose(QPainter& p, const QRectF& rect) {
-    DesignSpace ds(p, rect, kSquare);
-    const qreal w = outline(ds) * 0.7;
-    p.setPen(pen(colour::goldDeep, w));
+void paintCompassRose(QPainter& p, qreal w) {
+    p.setPen(pen(colour::goldDeep, w * 0.7));
     p.setBrush(Qt::NoBrush);
     p.drawEllipse(QPointF(50, 50), 30, 30);
     for (int i = 0; i < 8; ++i) {
@@ -286,20 +206,62 @@ void paintCompassRose(QPainter& p, const QRectF& rect) {
         const QPointF tip(50 + std::cos(a) * r, 50 + std::sin(a) * r);
         const QPointF l(50 + std::cos(a - 0.5) * 9, 50 + std::sin(a - 0.5) * 9);
         const QPointF rt(50 + std::cos(a + 0.5) * 9, 50 + std::sin(a + 0.5) * 9);
-        QPainterPath half1, half2;
-        half1.moveTo(50, 50);
-        half1.lineTo(l);
-        half1.lineTo(tip);
-        half1.closeSubpath();
-        half2.moveTo(50, 50);
-        half2.lineTo(rt);
-        half2.lineTo(tip);
-        half2.closeSubpath();
         p.setBrush(i == 0 ? colour::moneyMinus : colour::gold);
-        p.drawPath(half1);
+        p.drawPath(polygon({{50, 50}, l, tip}));
         p.setBrush(i == 0 ? colour::moneyMinus.darker(130) : colour::goldDeep);
-        p.drawPath(half2);
+        p.drawPath(polygon({{50, 50}, rt, tip}));
     }
+}
+
+}  // namespace
+
+void paintEmblem(QPainter& p, const QRectF& rect, Emblem emblem) {
+    const DesignSpace ds(p, rect, kSquare);
+    const qreal w = outline(ds);
+    switch (emblem) {
+        case Emblem::TrainFront:
+            paintTrainFront(p, w);
+            break;
+        case Emblem::Bulb:
+            paintBulb(p, w);
+            break;
+        case Emblem::Tower:
+            paintTower(p, ds, w);
+            break;
+        case Emblem::CoinStack:
+            paintCoinStack(p, w);
+            break;
+        case Emblem::GoArrow:
+            paintGoArrow(p, w);
+            break;
+        case Emblem::JailBars:
+            paintJailBars(p, w);
+            break;
+        case Emblem::StadiumArch:
+            paintStadiumArch(p, w);
+            break;
+        case Emblem::PoliceCap:
+            paintPoliceCap(p, w);
+            break;
+        case Emblem::CompassRose:
+            paintCompassRose(p, w);
+            break;
+    }
+}
+
+TextBox paintJflSeal(QPainter& p, const QRectF& rect) {
+    const DesignSpace ds(p, rect, kSquare);
+    const qreal w = outline(ds);
+    p.setPen(inkPen(w));
+    p.setBrush(shadedBrush(colour::gold, QRectF(2, 2, 96, 96), 125, 110));
+    p.drawPath(star({50, 50}, 28, 48, 43));
+    p.setBrush(shadedBrush(colour::teal, QRectF(12, 12, 76, 76), 130, 115));
+    p.drawEllipse(QPointF(50, 50), 38, 38);
+    p.setBrush(Qt::NoBrush);
+    p.setPen(pen(colour::goldLight, w));
+    p.drawEllipse(QPointF(50, 50), 33, 33);
+    TextStyle st{Face::Title, 30, colour::goldLight, Qt::AlignCenter, 1, 7};
+    return drawText(p, QRectF(20, 30, 60, 40), QStringLiteral("JFL"), st);
 }
 
 void paintSkyline(QPainter& p, const QRectF& rect, const QColor& colour) {
@@ -337,15 +299,11 @@ void paintSkyline(QPainter& p, const QRectF& rect, const QColor& colour) {
         QPainterPath one;
         one.addRect(QRectF(x, top, bw + 0.5, base - top));
         switch (b.roof) {
-            case 1: {
-                QPainterPath spire;
-                spire.moveTo(x + bw * 0.3, top);
-                spire.lineTo(x + bw * 0.5, top - rect.height() * 0.12);
-                spire.lineTo(x + bw * 0.7, top);
-                spire.closeSubpath();
-                one = one.united(spire);
+            case 1:
+                one = one.united(polygon({{x + bw * 0.3, top},
+                                          {x + bw * 0.5, top - rect.height() * 0.12},
+                                          {x + bw * 0.7, top}}));
                 break;
-            }
             case 2: {
                 QPainterPath dome;
                 dome.addEllipse(QRectF(x + bw * 0.1, top - bw * 0.4, bw * 0.8, bw * 0.8));
@@ -359,16 +317,12 @@ void paintSkyline(QPainter& p, const QRectF& rect, const QColor& colour) {
                 one = one.united(step);
                 break;
             }
-            case 4: {
-                QPainterPath mast;
-                mast.moveTo(x + bw * 0.6, top);
-                mast.lineTo(x + bw * 0.15, top - rect.height() * 0.4);
-                mast.lineTo(x + bw * 0.3, top - rect.height() * 0.42);
-                mast.lineTo(x + bw * 0.85, top);
-                mast.closeSubpath();
-                one = one.united(mast);
+            case 4:
+                one = one.united(polygon({{x + bw * 0.6, top},
+                                          {x + bw * 0.15, top - rect.height() * 0.4},
+                                          {x + bw * 0.3, top - rect.height() * 0.42},
+                                          {x + bw * 0.85, top}}));
                 break;
-            }
             default:
                 break;
         }

@@ -11,16 +11,23 @@ class QPainter;
 
 namespace gw::art {
 
-void paintTrainFront(QPainter& p, const QRectF& rect);
-void paintBulb(QPainter& p, const QRectF& rect);
-void paintTower(QPainter& p, const QRectF& rect);
-void paintCoinStack(QPainter& p, const QRectF& rect);
+enum class Emblem {
+    TrainFront,  // metro stations
+    Bulb,        // Utility 1
+    Tower,       // HQ
+    CoinStack,   // the tax cells and cards
+    // The four corners.
+    GoArrow,
+    JailBars,
+    StadiumArch,
+    PoliceCap,
+    CompassRose,  // the map on the board and the set-up window
+};
+
+void paintEmblem(QPainter& p, const QRectF& rect, Emblem emblem);
+
+// The JFL seal; its lettering is reported like any other text on a picture.
 TextBox paintJflSeal(QPainter& p, const QRectF& rect);
-void paintGoArrow(QPainter& p, const QRectF& rect);
-void paintJailBars(QPainter& p, const QRectF& rect);
-void paintStadiumArch(QPainter& p, const QRectF& rect);
-void paintPoliceCap(QPainter& p, const QRectF& rect);
-void paintCompassRose(QPainter& p, const QRectF& rect);
 
 // A silhouette of Kestrovia's skyline filling rect from its bottom edge up.
 void paintSkyline(QPainter& p, const QRectF& rect, const QColor& colour);

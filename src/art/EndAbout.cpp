@@ -14,10 +14,13 @@
 #include "art/Design.h"
 #include "art/Emblems.h"
 #include "art/Palette.h"
+#include "art/Paths.h"
 
 namespace gw::art {
 
 namespace {
+
+constexpr QSizeF kEndSize(600, 491);
 
 void paintSunburst(QPainter& p, QPointF centre, qreal radius, const QColor& colour, int rays) {
     p.save();
@@ -26,12 +29,8 @@ void paintSunburst(QPainter& p, QPointF centre, qreal radius, const QColor& colo
     for (int i = 0; i < rays; ++i) {
         const qreal a0 = 2 * std::numbers::pi * i / rays;
         const qreal a1 = a0 + std::numbers::pi / rays;
-        QPainterPath ray;
-        ray.moveTo(centre);
-        ray.lineTo(centre + QPointF(std::cos(a0), std::sin(a0)) * radius);
-        ray.lineTo(centre + QPointF(std::cos(a1), std::sin(a1)) * radius);
-        ray.closeSubpath();
-        p.drawPath(ray);
+        p.drawPath(polygon({centre, centre + QPointF(std::cos(a0), std::sin(a0)) * radius,
+                            centre + QPointF(std::cos(a1), std::sin(a1)) * radius}));
     }
     p.restore();
 }
@@ -66,11 +65,7 @@ void paintLaurel(QPainter& p, QPointF centre, qreal radius, bool left) {
             p.rotate(tangent + (outer ? -25 : 25) * side);
             p.setBrush(shadedBrush(outer ? colour::gold : colour::goldLight, QRectF(-8, -3, 16, 6),
                                    115, 110));
-            QPainterPath leaf;
-            leaf.moveTo(-8, 0);
-            leaf.cubicTo(-3, -5, 4, -4, 8, 0);
-            leaf.cubicTo(4, 4, -3, 5, -8, 0);
-            p.drawPath(leaf);
+            p.drawPath(curve({-8, 0}, {{{-3, -5}, {4, -4}, {8, 0}}, {{4, 4}, {-3, 5}, {-8, 0}}}));
             p.restore();
         }
     }
@@ -81,14 +76,8 @@ void paintLaurel(QPainter& p, QPointF centre, qreal radius, bool left) {
 
 TextBoxes paintEndBackground(QPainter& p, const QRectF& rect) {
     TextBoxes out;
-    DesignSpace ds(p, rect, QSizeF(600, 491), false);
-    p.fillRect(QRectF(0, 0, 600, 491), colour::teal);
-    QLinearGradient wash(0, 0, 0, 491);
-    wash.setColorAt(0, colour::cream.lighter(104));
-    wash.setColorAt(1, colour::cream);
-    p.setPen(pen(colour::gold, 1.5));
-    p.setBrush(wash);
-    p.drawRoundedRect(QRectF(4, 4, 592, 483), 8, 8);
+    DesignSpace ds(p, rect, kEndSize, false);
+    paintWindowPaper(p, kEndSize);
     paintSunburst(p, QPointF(312, 210), 330, colour::withAlpha(colour::goldLight, 45), 28);
     paintConfetti(p, QRectF(10, 10, 580, 150), 70);
     paintConfetti(p, QRectF(10, 250, 390, 160), 30);
@@ -96,17 +85,9 @@ TextBoxes paintEndBackground(QPainter& p, const QRectF& rect) {
     drawText(out, p, QRectF(100, 22, 400, 64), QStringLiteral("Game Over"),
              TextStyle{Face::Title, 54, colour::teal, Qt::AlignCenter, 1, 20});
     // The ribbon behind the winner's line.
-    QPainterPath ribbon;
-    ribbon.moveTo(70, 98);
-    ribbon.lineTo(387, 98);
-    ribbon.lineTo(377, 110.5);
-    ribbon.lineTo(387, 123);
-    ribbon.lineTo(70, 123);
-    ribbon.lineTo(80, 110.5);
-    ribbon.closeSubpath();
     p.setPen(pen(colour::goldDeep, 1));
     p.setBrush(shadedBrush(colour::gold, QRectF(70, 98, 317, 25), 130, 105));
-    p.drawPath(ribbon);
+    p.drawPath(polygon({{70, 98}, {387, 98}, {377, 110.5}, {387, 123}, {70, 123}, {80, 110.5}}));
     p.setPen(Qt::NoPen);
     p.setBrush(colour::paper);
     p.drawRoundedRect(QRectF(92, 101, 273, 19), 3, 3);
@@ -171,12 +152,8 @@ void paintPortrait(QPainter& p, const QRectF& rect, int index) {
     const auto k = static_cast<std::size_t>(i);
     DesignSpace ds(p, rect, QSizeF(97, 89), false);
     const QRectF frame(1, 1, 95, 87);
-    p.setPen(pen(colour::teal, 2));
-    p.setBrush(shadedBrush(kBacks[k], frame, 110, 105));
-    p.drawRoundedRect(frame, 8, 8);
-    p.setPen(pen(colour::gold, 1));
-    p.setBrush(Qt::NoBrush);
-    p.drawRoundedRect(frame.adjusted(3, 3, -3, -3), 6, 6);
+    paintFramedPlate(p, frame, 8, pen(colour::teal, 2), shadedBrush(kBacks[k], frame, 110, 105),
+                     colour::gold);
     p.save();
     QPainterPath clip;
     clip.addRoundedRect(frame.adjusted(3, 3, -3, -3), 6, 6);

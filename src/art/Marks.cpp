@@ -3,13 +3,13 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
 #include <QtMath>
 #include <algorithm>
 #include <cmath>
 
 #include "art/Design.h"
 #include "art/Palette.h"
+#include "art/Paths.h"
 
 namespace gw::art {
 
@@ -32,13 +32,8 @@ void paintHotel(QPainter& p, const QRectF& rect) {
     p.setPen(inkPen(w));
     p.setBrush(shadedBrush(kHotelWall, QRectF(1, 6, 10, 14), 125, 110));
     p.drawRect(QRectF(1.4, 6.5, 9.2, 14));
-    QPainterPath roof;
-    roof.moveTo(0.5, 7);
-    roof.lineTo(6, 0.6);
-    roof.lineTo(11.5, 7);
-    roof.closeSubpath();
     p.setBrush(shadedBrush(colour::gold, QRectF(0, 0, 12, 7), 130, 105));
-    p.drawPath(roof);
+    p.drawPath(polygon({{0.5, 7}, {6, 0.6}, {11.5, 7}}));
     p.setPen(Qt::NoPen);
     p.setBrush(colour::goldLight);
     for (int row = 0; row < 3; ++row) {

@@ -1,6 +1,7 @@
 // The trade card's two faces, the JFL card and the tax cards.
 #include <QPainter>
 
+#include "art/CardParts.h"
 #include "art/Cards.h"
 #include "art/Design.h"
 #include "art/Emblems.h"
@@ -10,10 +11,6 @@ namespace gw::art {
 
 namespace {
 
-TextStyle caption(Qt::Alignment align = Qt::AlignLeft | Qt::AlignVCenter) {
-    return {Face::Caption, 11, colour::ink, align, 1, 8};
-}
-
 void paintWell(QPainter& p, const QRectF& r) {
     p.setPen(pen(colour::creamShade.darker(118), 1));
     p.setBrush(colour::paper);
@@ -22,28 +19,10 @@ void paintWell(QPainter& p, const QRectF& r) {
 
 // A teal title band across the top of a card.
 void paintTitleBand(TextBoxes& out, QPainter& p, const QRectF& band, const QString& title) {
-    p.setPen(pen(colour::tealDeep, 1));
-    p.setBrush(shadedBrush(colour::teal, band, 125, 110));
-    p.drawRoundedRect(band, 4, 4);
-    p.setPen(pen(colour::gold, 1));
-    p.setBrush(Qt::NoBrush);
-    p.drawRoundedRect(band.adjusted(3, 3, -3, -3), 2, 2);
+    paintFramedPlate(p, band, 4, pen(colour::tealDeep, 1),
+                     shadedBrush(colour::teal, band, 125, 110), colour::gold);
     drawText(out, p, band.adjusted(8, 4, -8, -4), title,
              TextStyle{Face::Title, 17, colour::goldLight, Qt::AlignCenter, 1, 10});
-}
-
-// Gold corner brackets on a card's inner frame.
-void paintCorners(QPainter& p, const QRectF& r) {
-    p.setPen(pen(colour::gold, 1.4));
-    const qreal l = 12;
-    p.drawLine(r.topLeft(), r.topLeft() + QPointF(l, 0));
-    p.drawLine(r.topLeft(), r.topLeft() + QPointF(0, l));
-    p.drawLine(r.topRight(), r.topRight() + QPointF(-l, 0));
-    p.drawLine(r.topRight(), r.topRight() + QPointF(0, l));
-    p.drawLine(r.bottomLeft(), r.bottomLeft() + QPointF(l, 0));
-    p.drawLine(r.bottomLeft(), r.bottomLeft() + QPointF(0, -l));
-    p.drawLine(r.bottomRight(), r.bottomRight() + QPointF(-l, 0));
-    p.drawLine(r.bottomRight(), r.bottomRight() + QPointF(0, -l));
 }
 
 }  // namespace
@@ -51,10 +30,7 @@ void paintCorners(QPainter& p, const QRectF& r) {
 TextBoxes paintTradeCard(QPainter& p, const QRectF& rect, TradeSide side) {
     TextBoxes out;
     DesignSpace ds(p, rect, QSizeF(kTradeCardSize), false);
-    paintCardStock(p, QRectF(0, 0, 201, 299), 10);
-    p.setPen(pen(colour::teal, 1.5));
-    p.setBrush(Qt::NoBrush);
-    p.drawRoundedRect(QRectF(5, 5, 191, 289), 7, 7);
+    paintFramedCard(p, QSizeF(kTradeCardSize));
     const bool owner = side == TradeSide::Owner;
     paintTitleBand(out, p, QRectF(12, 14, 177, 38),
                    owner ? QStringLiteral("Trade Offer") : QStringLiteral("Make an Offer"));
@@ -66,16 +42,12 @@ TextBoxes paintTradeCard(QPainter& p, const QRectF& rect, TradeSide side) {
     const int count = owner ? 4 : 3;
     for (int i = 0; i < count; ++i) {
         const qreal y = 104 + 16 * i;
-        if (i % 2 == 0) {
-            p.setPen(Qt::NoPen);
-            p.setBrush(colour::withAlpha(colour::creamShade, 140));
-            p.drawRoundedRect(QRectF(12, y, 177, 16), 2, 2);
-        }
-        drawText(out, p, QRectF(16, y, 60, 16), QString::fromLatin1(rows[i]), caption());
+        if (i % 2 == 0) paintRowStripe(p, QRectF(12, y, 177, 16));
+        drawText(out, p, QRectF(16, y, 60, 16), QString::fromLatin1(rows[i]), cardCaption());
     }
     if (!owner) {
         drawText(out, p, QRectF(16, 208, 92, 25), QStringLiteral("Your offer $"),
-                 caption(Qt::AlignRight | Qt::AlignVCenter));
+                 cardCaption(Qt::AlignRight | Qt::AlignVCenter));
         paintWell(p, QRectF(110, 206, 77, 29));
     }
     return out;
@@ -84,11 +56,7 @@ TextBoxes paintTradeCard(QPainter& p, const QRectF& rect, TradeSide side) {
 TextBoxes paintJflCard(QPainter& p, const QRectF& rect) {
     TextBoxes out;
     DesignSpace ds(p, rect, QSizeF(kNoticeCardSize), false);
-    paintCardStock(p, QRectF(0, 0, 223, 295), 12);
-    p.setPen(pen(colour::teal, 2));
-    p.setBrush(Qt::NoBrush);
-    p.drawRoundedRect(QRectF(8, 8, 207, 279), 8, 8);
-    paintCorners(p, QRectF(14, 14, 195, 267));
+    paintNoticeCard(p, QSizeF(kNoticeCardSize));
     out.push_back(paintJflSeal(p, QRectF(66, 18, 91, 91)));
     paintWell(p, QRectF(25, 118, 169, 113));
     paintGoldRule(p, QPointF(40, 112), QPointF(183, 112));
@@ -98,15 +66,11 @@ TextBoxes paintJflCard(QPainter& p, const QRectF& rect) {
 TextBoxes paintTaxCard(QPainter& p, const QRectF& rect, TaxKind kind) {
     TextBoxes out;
     DesignSpace ds(p, rect, QSizeF(kNoticeCardSize), false);
-    paintCardStock(p, QRectF(0, 0, 223, 295), 12);
-    p.setPen(pen(colour::teal, 2));
-    p.setBrush(Qt::NoBrush);
-    p.drawRoundedRect(QRectF(8, 8, 207, 279), 8, 8);
-    paintCorners(p, QRectF(14, 14, 195, 267));
+    paintNoticeCard(p, QSizeF(kNoticeCardSize));
     paintTitleBand(
         out, p, QRectF(20, 20, 183, 34),
         kind == TaxKind::Income ? QStringLiteral("Income Tax") : QStringLiteral("Luxury Tax"));
-    paintCoinStack(p, QRectF(76, 56, 71, 60));
+    paintEmblem(p, QRectF(76, 56, 71, 60), Emblem::CoinStack);
     paintWell(p, QRectF(28, 118, 161, 69));
     drawText(out, p, QRectF(28, 192, 161, 16), QStringLiteral("Paid to the city of Kestrovia"),
              TextStyle{Face::Caption, 10, colour::inkSoft, Qt::AlignCenter, 1, 8});

@@ -14,6 +14,12 @@ namespace gw::art {
 
 namespace {
 
+// The panels' design sizes.
+constexpr QSizeF kTurnPanel(182, 120);
+constexpr QSizeF kMessagePanel(189, 196);
+constexpr QSizeF kPlayersPanel(182, 191);
+constexpr QSizeF kEmblemPanel(182, 120);
+
 TextStyle heading() {
     return {Face::Caption, 10, colour::teal, Qt::AlignCenter, 1, 8, 1.2};
 }
@@ -29,6 +35,13 @@ void paintHeading(TextBoxes& out, QPainter& p, const QRectF& box, const QString&
     out.push_back(t);
 }
 
+// A panel filling its design size, with a heading across the top.
+void paintHeadedPanel(TextBoxes& out, QPainter& p, QSizeF size, qreal headingTop,
+                      const QString& title) {
+    paintPanel(p, QRectF(QPointF(0, 0), size));
+    paintHeading(out, p, QRectF(10, headingTop, size.width() - 20, 14), title);
+}
+
 void paintWell(QPainter& p, const QRectF& r) {
     p.save();
     p.setPen(pen(colour::creamShade.darker(112), 1));
@@ -41,10 +54,8 @@ void paintWell(QPainter& p, const QRectF& r) {
 
 TextBoxes paintTurnPanel(QPainter& p, const QRectF& rect) {
     TextBoxes out;
-    DesignSpace ds(p, rect, QSizeF(182, 120), false);
-    const QRectF r(0, 0, 182, 120);
-    paintPanel(p, r);
-    paintHeading(out, p, QRectF(10, 9, 162, 14), QStringLiteral("NOW PLAYING"));
+    DesignSpace ds(p, rect, kTurnPanel, false);
+    paintHeadedPanel(out, p, kTurnPanel, 9, QStringLiteral("NOW PLAYING"));
     p.setPen(Qt::NoPen);
     p.setBrush(colour::withAlpha(colour::gold, 45));
     p.drawEllipse(QPointF(91, 66), 34, 30);
@@ -53,9 +64,8 @@ TextBoxes paintTurnPanel(QPainter& p, const QRectF& rect) {
 
 TextBoxes paintMessagePanel(QPainter& p, const QRectF& rect) {
     TextBoxes out;
-    DesignSpace ds(p, rect, QSizeF(189, 196), false);
-    paintPanel(p, QRectF(0, 0, 189, 196));
-    paintHeading(out, p, QRectF(10, 9, 169, 14), QStringLiteral("NEWS"));
+    DesignSpace ds(p, rect, kMessagePanel, false);
+    paintHeadedPanel(out, p, kMessagePanel, 9, QStringLiteral("NEWS"));
     paintWell(p, QRectF(26, 25, 147, 47));
     paintSkyline(p, QRectF(12, 150, 165, 36), colour::withAlpha(colour::teal, 38));
     return out;
@@ -63,9 +73,8 @@ TextBoxes paintMessagePanel(QPainter& p, const QRectF& rect) {
 
 TextBoxes paintPlayersPanel(QPainter& p, const QRectF& rect) {
     TextBoxes out;
-    DesignSpace ds(p, rect, QSizeF(182, 191), false);
-    paintPanel(p, QRectF(0, 0, 182, 191));
-    paintHeading(out, p, QRectF(10, 10, 162, 14), QStringLiteral("PLAYERS"));
+    DesignSpace ds(p, rect, kPlayersPanel, false);
+    paintHeadedPanel(out, p, kPlayersPanel, 10, QStringLiteral("PLAYERS"));
     for (int i = 0; i < 6; ++i) {
         const QRectF row(9, 32 + 25 * i, 164, 24);
         p.setPen(Qt::NoPen);
@@ -80,8 +89,8 @@ TextBoxes paintPlayersPanel(QPainter& p, const QRectF& rect) {
 
 TextBoxes paintEmblemPanel(QPainter& p, const QRectF& rect) {
     TextBoxes out;
-    DesignSpace ds(p, rect, QSizeF(182, 120), false);
-    paintPanel(p, QRectF(0, 0, 182, 120));
+    DesignSpace ds(p, rect, kEmblemPanel, false);
+    paintPanel(p, QRectF(QPointF(0, 0), kEmblemPanel));
     QLinearGradient sky(0, 8, 0, 112);
     sky.setColorAt(0, colour::cream.lighter(104));
     sky.setColorAt(1, colour::withAlpha(colour::goldLight, 90));

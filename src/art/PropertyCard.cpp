@@ -2,6 +2,7 @@
 // Each printed caption ends where the program's number for that row begins.
 #include <QPainter>
 
+#include "art/CardParts.h"
 #include "art/Cards.h"
 #include "art/Design.h"
 #include "art/Emblems.h"
@@ -11,21 +12,11 @@ namespace gw::art {
 
 namespace {
 
-TextStyle caption() {
-    return {Face::Caption, 11, colour::ink, Qt::AlignLeft | Qt::AlignVCenter, 1, 8};
-}
-
-// A faint stripe under a table row, from the card's margin to the value's right end.
-void paintRowStripe(QPainter& p, qreal y, qreal height) {
-    p.setPen(Qt::NoPen);
-    p.setBrush(colour::withAlpha(colour::creamShade, 140));
-    p.drawRoundedRect(QRectF(14, y, 173, height), 2, 2);
-}
-
+// A row of the rent table; its stripe runs from the card's margin to the value's right end.
 void paintRow(TextBoxes& out, QPainter& p, qreal y, qreal valueX, const QString& text,
               bool stripe) {
-    if (stripe) paintRowStripe(p, y, 17);
-    drawText(out, p, QRectF(18, y, valueX - 22, 17), text, caption());
+    if (stripe) paintRowStripe(p, QRectF(14, y, 173, 17));
+    drawText(out, p, QRectF(18, y, valueX - 22, 17), text, cardCaption());
 }
 
 }  // namespace
@@ -34,10 +25,7 @@ TextBoxes paintPropertyCard(QPainter& p, const QRectF& rect, PropertyCardKind ki
                             const QColor& band) {
     TextBoxes out;
     DesignSpace ds(p, rect, QSizeF(kPropertyCardSize), false);
-    paintCardStock(p, QRectF(0, 0, 201, 299), 10);
-    p.setPen(pen(colour::teal, 1.5));
-    p.setBrush(Qt::NoBrush);
-    p.drawRoundedRect(QRectF(5, 5, 191, 289), 7, 7);
+    paintFramedCard(p, QSizeF(kPropertyCardSize));
     // The band carries the name (y 24) and the price (y 43) written by the program.
     const QRectF bandRect(12, 14, 177, 48);
     p.setPen(pen(colour::ink, 1));
@@ -66,9 +54,9 @@ TextBoxes paintPropertyCard(QPainter& p, const QRectF& rect, PropertyCardKind ki
         p.setPen(Qt::NoPen);
         p.setBrush(colour::withAlpha(band, 120));
         p.drawEllipse(emblem.center(), 34, 28);
-        if (kind == PropertyCardKind::Metro) paintTrainFront(p, emblem);
-        if (kind == PropertyCardKind::UtilityBulb) paintBulb(p, emblem);
-        if (kind == PropertyCardKind::UtilityTower) paintTower(p, emblem);
+        if (kind == PropertyCardKind::Metro) paintEmblem(p, emblem, Emblem::TrainFront);
+        if (kind == PropertyCardKind::UtilityBulb) paintEmblem(p, emblem, Emblem::Bulb);
+        if (kind == PropertyCardKind::UtilityTower) paintEmblem(p, emblem, Emblem::Tower);
     }
     // The button strip stays plain card stock; a hairline marks its top.
     p.setPen(pen(colour::withAlpha(colour::gold, 160), 0.8));

@@ -2,7 +2,6 @@
 // background prints the labels and frames around them and leaves their own space plain.
 #include "art/StartWindow.h"
 
-#include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -13,6 +12,8 @@
 namespace gw::art {
 
 namespace {
+
+constexpr QSizeF kBackgroundSize(600, 400);
 
 void paintWell(QPainter& p, const QRectF& r, qreal radius = 4) {
     p.setPen(pen(colour::creamShade.darker(118), 1));
@@ -61,18 +62,19 @@ void paintHumanIcon(QPainter& p, const QRectF& r) {
     p.drawArc(QRectF(42, 30, 16, 12), 200 * 16, 140 * 16);
 }
 
+void paintPlayerIcon(QPainter& p, const QRectF& r, PlayerType type) {
+    if (type == PlayerType::Computer)
+        paintComputerIcon(p, r);
+    else
+        paintHumanIcon(p, r);
+}
+
 }  // namespace
 
 TextBoxes paintStartBackground(QPainter& p, const QRectF& rect) {
     TextBoxes out;
-    DesignSpace ds(p, rect, QSizeF(600, 400), false);
-    p.fillRect(QRectF(0, 0, 600, 400), colour::teal);
-    QLinearGradient paperWash(0, 0, 0, 400);
-    paperWash.setColorAt(0, colour::cream.lighter(104));
-    paperWash.setColorAt(1, colour::cream);
-    p.setPen(pen(colour::gold, 1.5));
-    p.setBrush(paperWash);
-    p.drawRoundedRect(QRectF(4, 4, 592, 392), 8, 8);
+    DesignSpace ds(p, rect, kBackgroundSize, false);
+    paintWindowPaper(p, kBackgroundSize);
     // The title over the city.
     paintSkyline(p, QRectF(6, 58, 588, 72), colour::withAlpha(colour::teal, 40));
     drawText(out, p, QRectF(120, 14, 360, 56), QStringLiteral("Gildenway"),
@@ -112,7 +114,7 @@ TextBoxes paintStartBackground(QPainter& p, const QRectF& rect) {
     p.drawRect(QRectF(410, 166, 156, 12));
     drawText(out, p, QRectF(416, 154, 144, 22), QStringLiteral("PLAYERS"),
              TextStyle{Face::Caption, 12, colour::goldLight, Qt::AlignCenter, 1, 9, 2});
-    paintCompassRose(p, QRectF(464, 348, 46, 46));
+    paintEmblem(p, QRectF(464, 348, 46, 46), Emblem::CompassRose);
     p.setPen(pen(colour::creamShade, 1));
     for (int i = 1; i < 6; ++i)
         p.drawLine(QPointF(418, 184 + 25.3 * i), QPointF(558, 184 + 25.3 * i));
@@ -130,19 +132,12 @@ TextBoxes paintPlayerType(QPainter& p, const QRectF& rect, PlayerType type, bool
         p.setPen(Qt::NoPen);
         p.setBrush(colour::withAlpha(colour::ink, 50));
         p.drawRoundedRect(r.translated(1, 2), 8, 8);
-        p.setPen(pen(colour::tealDeep, 1));
-        p.setBrush(shadedBrush(colour::teal, r, 135, 110));
-        p.drawRoundedRect(r, 8, 8);
-        p.setPen(pen(colour::goldLight, 1));
-        p.setBrush(Qt::NoBrush);
-        p.drawRoundedRect(r.adjusted(3, 3, -3, -3), 6, 6);
+        paintFramedPlate(p, r, 8, pen(colour::tealDeep, 1), shadedBrush(colour::teal, r, 135, 110),
+                         colour::goldLight);
         p.setBrush(colour::cream);
         p.setPen(Qt::NoPen);
         p.drawEllipse(QPointF(27, 25), 17, 17);
-        if (type == PlayerType::Computer)
-            paintComputerIcon(p, QRectF(12, 10, 30, 30));
-        else
-            paintHumanIcon(p, QRectF(12, 10, 30, 30));
+        paintPlayerIcon(p, QRectF(12, 10, 30, 30), type);
         drawText(out, p, QRectF(48, 6, 100, 38), label,
                  TextStyle{Face::Title, 20, colour::cream, Qt::AlignCenter, 1, 12});
     } else {
@@ -150,10 +145,7 @@ TextBoxes paintPlayerType(QPainter& p, const QRectF& rect, PlayerType type, bool
         p.setPen(pen(colour::gold, 2));
         p.setBrush(colour::paper);
         p.drawRoundedRect(r.adjusted(1, 1, -1, -1), 8, 8);
-        if (type == PlayerType::Computer)
-            paintComputerIcon(p, QRectF(10, 11, 28, 28));
-        else
-            paintHumanIcon(p, QRectF(10, 11, 28, 28));
+        paintPlayerIcon(p, QRectF(10, 11, 28, 28), type);
         drawText(out, p, QRectF(44, 8, 82, 34), label,
                  TextStyle{Face::Caption, 14, colour::teal, Qt::AlignCenter, 1, 9});
         p.setPen(pen(colour::moneyPlus, 3));

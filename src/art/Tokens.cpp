@@ -5,12 +5,13 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPainterPathStroker>
+#include <algorithm>
 #include <array>
-#include <cmath>
 #include <numbers>
 
 #include "art/Design.h"
 #include "art/Palette.h"
+#include "art/Paths.h"
 
 namespace gw::art {
 
@@ -47,48 +48,22 @@ QPainterPath stroked(const QPainterPath& line, qreal width) {
     return s.createStroke(line).simplified();
 }
 
-QPainterPath polygon(std::initializer_list<QPointF> pts) {
-    QPainterPath path;
-    bool first = true;
-    for (const QPointF& pt : pts) {
-        if (first)
-            path.moveTo(pt);
-        else
-            path.lineTo(pt);
-        first = false;
-    }
-    path.closeSubpath();
-    return path;
-}
-
 QPainterPath key() {
-    QPainterPath bow;
-    bow.addEllipse(QPointF(28, 50), 20, 20);
-    QPainterPath hole;
-    hole.addEllipse(QPointF(24, 50), 8, 8);
-    QPainterPath shaft;
-    shaft.addRoundedRect(QRectF(44, 44, 48, 12), 3, 3);
+    QPainterPath shaft = roundedRect(QRectF(44, 44, 48, 12), 3);
     shaft.addRect(QRectF(70, 54, 8, 16));
     shaft.addRect(QRectF(82, 54, 8, 22));
-    return bow.united(shaft).subtracted(hole);
+    return circle({28, 50}, 20).united(shaft).subtracted(circle({24, 50}, 8));
 }
 
 QPainterPath anchor() {
-    QPainterPath ring;
-    ring.addEllipse(QPointF(50, 15), 10, 10);
-    QPainterPath hole;
-    hole.addEllipse(QPointF(50, 15), 4.5, 4.5);
-    QPainterPath body;
-    body.addRoundedRect(QRectF(45, 22, 10, 62), 3, 3);
+    QPainterPath body = roundedRect(QRectF(45, 22, 10, 62), 3);
     body.addRoundedRect(QRectF(30, 30, 40, 9), 4, 4);
-    QPainterPath arc;
-    arc.moveTo(16, 58);
-    arc.cubicTo(18, 82, 38, 90, 50, 90);
-    arc.cubicTo(62, 90, 82, 82, 84, 58);
-    QPainterPath shape = ring.united(body).united(stroked(arc, 10));
+    const QPainterPath arc =
+        curve({16, 58}, {{{18, 82}, {38, 90}, {50, 90}}, {{62, 90}, {82, 82}, {84, 58}}});
+    QPainterPath shape = circle({50, 15}, 10).united(body).united(stroked(arc, 10));
     shape = shape.united(polygon({{8, 62}, {18, 48}, {26, 64}}));
     shape = shape.united(polygon({{92, 62}, {82, 48}, {74, 64}}));
-    return shape.subtracted(hole);
+    return shape.subtracted(circle({50, 15}, 4.5));
 }
 
 QPainterPath crown() {
@@ -102,28 +77,17 @@ QPainterPath crown() {
 }
 
 QPainterPath lantern() {
-    QPainterPath l;
-    l.addEllipse(QPointF(50, 10), 7, 7);
-    l = l.subtracted([] {
-        QPainterPath h;
-        h.addEllipse(QPointF(50, 10), 3, 3);
-        return h;
-    }());
+    const QPainterPath ring = circle({50, 10}, 7).subtracted(circle({50, 10}, 3));
     QPainterPath body = polygon({{30, 30}, {70, 30}, {60, 18}, {40, 18}});
     body.addRoundedRect(QRectF(28, 30, 44, 48), 6, 6);
     body.addRoundedRect(QRectF(24, 76, 52, 12), 3, 3);
-    return l.united(body);
+    return ring.united(body);
 }
 
 QPainterPath feather() {
-    QPainterPath vane;
-    vane.moveTo(26, 84);
-    vane.cubicTo(10, 56, 40, 16, 88, 8);
-    vane.cubicTo(86, 46, 62, 80, 26, 84);
-    vane.closeSubpath();
-    QPainterPath quill;
-    quill.moveTo(12, 94);
-    quill.cubicTo(34, 70, 56, 40, 84, 12);
+    const QPainterPath vane =
+        closedCurve({26, 84}, {{{10, 56}, {40, 16}, {88, 8}}, {{86, 46}, {62, 80}, {26, 84}}});
+    const QPainterPath quill = curve({12, 94}, {{{34, 70}, {56, 40}, {84, 12}}});
     QPainterPath notches = polygon({{44, 76}, {54, 64}, {60, 74}});
     return vane.united(stroked(quill, 5)).subtracted(notches);
 }
@@ -136,26 +100,11 @@ QPainterPath bell() {
     b.lineTo(90, 82);
     b.lineTo(10, 82);
     b.closeSubpath();
-    QPainterPath bits;
-    bits.addEllipse(QPointF(50, 91), 7, 7);
-    QPainterPath handle;
-    handle.addRoundedRect(QRectF(43, 8, 14, 16), 5, 5);
-    return b.united(bits).united(handle);
+    return b.united(circle({50, 91}, 7)).united(roundedRect(QRectF(43, 8, 14, 16), 5));
 }
 
-QPainterPath star() {
-    QPainterPath s;
-    for (int i = 0; i < 10; ++i) {
-        const qreal a = -std::numbers::pi / 2 + std::numbers::pi * i / 5;
-        const qreal r = (i % 2 == 0) ? 48 : 20;
-        const QPointF pt(50 + std::cos(a) * r, 54 + std::sin(a) * r);
-        if (i == 0)
-            s.moveTo(pt);
-        else
-            s.lineTo(pt);
-    }
-    s.closeSubpath();
-    return s;
+QPainterPath fivePointStar() {
+    return star({50, 54}, 5, 48, 20, -std::numbers::pi / 2);
 }
 
 QPainterPath teapot() {
@@ -166,12 +115,8 @@ QPainterPath teapot() {
     QPainterPath lid;
     lid.addEllipse(QRectF(34, 28, 32, 16));
     lid.addEllipse(QPointF(50, 26), 6, 6);
-    QPainterPath spout;
-    spout.moveTo(28, 66);
-    spout.cubicTo(16, 64, 12, 50, 4, 38);
-    QPainterPath handle;
-    handle.moveTo(72, 48);
-    handle.cubicTo(98, 44, 98, 74, 72, 72);
+    const QPainterPath spout = curve({28, 66}, {{{16, 64}, {12, 50}, {4, 38}}});
+    const QPainterPath handle = curve({72, 48}, {{{98, 44}, {98, 74}, {72, 72}}});
     return body.united(base).united(lid).united(stroked(spout, 10)).united(stroked(handle, 8));
 }
 
@@ -192,22 +137,12 @@ QPainterPath bicycle() {
     holes.addEllipse(QPointF(24, 66), 12, 12);
     holes.addEllipse(QPointF(76, 66), 12, 12);
     QPainterPath frame;
-    frame.moveTo(24, 66);
-    frame.lineTo(44, 38);
-    frame.lineTo(70, 38);
-    frame.lineTo(76, 66);
-    frame.moveTo(24, 66);
-    frame.lineTo(50, 66);
-    frame.lineTo(70, 38);
-    frame.moveTo(44, 38);
-    frame.lineTo(50, 66);
-    frame.moveTo(40, 28);
-    frame.lineTo(44, 38);
-    frame.moveTo(70, 38);
-    frame.lineTo(66, 22);
-    frame.lineTo(76, 20);
-    QPainterPath seat;
-    seat.addRoundedRect(QRectF(32, 24, 16, 7), 3, 3);
+    addPolyline(frame, {{24, 66}, {44, 38}, {70, 38}, {76, 66}});
+    addPolyline(frame, {{24, 66}, {50, 66}, {70, 38}});
+    addPolyline(frame, {{44, 38}, {50, 66}});
+    addPolyline(frame, {{40, 28}, {44, 38}});
+    addPolyline(frame, {{70, 38}, {66, 22}, {76, 20}});
+    const QPainterPath seat = roundedRect(QRectF(32, 24, 16, 7), 3);
     QPainterPath hubs;
     hubs.addEllipse(QPointF(24, 66), 4, 4);
     hubs.addEllipse(QPointF(76, 66), 4, 4);
@@ -217,13 +152,7 @@ QPainterPath bicycle() {
 QPainterPath topHat() {
     QPainterPath brim;
     brim.addEllipse(QRectF(6, 72, 88, 18));
-    QPainterPath crown;
-    crown.moveTo(26, 80);
-    crown.lineTo(22, 16);
-    crown.cubicTo(30, 8, 70, 8, 78, 16);
-    crown.lineTo(74, 80);
-    crown.closeSubpath();
-    return brim.united(crown);
+    return brim.united(hatCrown({26, 80}, {22, 16}, {{30, 8}, {70, 8}, {78, 16}}, {74, 80}));
 }
 
 QPainterPath cat() {
@@ -231,14 +160,9 @@ QPainterPath cat() {
     head.addEllipse(QPointF(38, 32), 18, 16);
     QPainterPath ears = polygon({{22, 26}, {22, 6}, {36, 18}});
     ears = ears.united(polygon({{54, 26}, {54, 6}, {40, 18}}));
-    QPainterPath body;
-    body.moveTo(22, 92);
-    body.cubicTo(16, 66, 22, 46, 40, 42);
-    body.cubicTo(62, 44, 70, 70, 66, 92);
-    body.closeSubpath();
-    QPainterPath tail;
-    tail.moveTo(62, 88);
-    tail.cubicTo(86, 90, 94, 70, 86, 52);
+    const QPainterPath body =
+        closedCurve({22, 92}, {{{16, 66}, {22, 46}, {40, 42}}, {{62, 44}, {70, 70}, {66, 92}}});
+    const QPainterPath tail = curve({62, 88}, {{{86, 90}, {94, 70}, {86, 52}}});
     return head.united(ears).united(body).united(stroked(tail, 9));
 }
 
@@ -261,9 +185,7 @@ QPainterPath rocket() {
     QPainterPath fins = polygon({{34, 50}, {16, 76}, {18, 88}, {38, 74}});
     fins = fins.united(polygon({{66, 50}, {84, 76}, {82, 88}, {62, 74}}));
     QPainterPath nozzle = polygon({{40, 74}, {60, 74}, {56, 84}, {44, 84}});
-    QPainterPath window;
-    window.addEllipse(QPointF(50, 38), 8, 8);
-    return body.united(fins).united(nozzle).subtracted(window);
+    return body.united(fins).united(nozzle).subtracted(circle({50, 38}, 8));
 }
 
 QPainterPath silhouette(int index) {
@@ -281,7 +203,7 @@ QPainterPath silhouette(int index) {
         case 5:
             return bell();
         case 6:
-            return star();
+            return fivePointStar();
         case 7:
             return teapot();
         case 8:
@@ -316,13 +238,8 @@ void paintDetails(QPainter& p, int index, qreal w) {
             p.setBrush(colour::withAlpha(QColor(0xFF, 0xE8, 0x9A), 230));
             p.drawRoundedRect(QRectF(36, 38, 28, 32), 4, 4);
             p.setBrush(QColor(0xF0, 0x8A, 0x24));
-            {
-                QPainterPath flame;
-                flame.moveTo(50, 44);
-                flame.cubicTo(58, 54, 56, 64, 50, 64);
-                flame.cubicTo(44, 64, 42, 54, 50, 44);
-                p.drawPath(flame);
-            }
+            p.drawPath(
+                curve({50, 44}, {{{58, 54}, {56, 64}, {50, 64}}, {{44, 64}, {42, 54}, {50, 44}}}));
             break;
         case 5:  // bell rim line
             p.drawLine(QPointF(18, 74), QPointF(82, 74));
@@ -354,14 +271,7 @@ void paintDetails(QPainter& p, int index, qreal w) {
             p.setBrush(QColor(0xCF, 0xE6, 0xEA));
             p.drawEllipse(QPointF(50, 38), 8, 8);
             p.setBrush(QColor(0xF0, 0x8A, 0x24));
-            {
-                QPainterPath flame;
-                flame.moveTo(44, 86);
-                flame.lineTo(56, 86);
-                flame.lineTo(50, 98);
-                flame.closeSubpath();
-                p.drawPath(flame);
-            }
+            p.drawPath(polygon({{44, 86}, {56, 86}, {50, 98}}));
             break;
         default:
             break;

@@ -2,6 +2,8 @@
 // table, copied here so the pictures can be looked at without the game.
 #include "Catalogue.h"
 
+#include <QDir>
+#include <QFile>
 #include <array>
 
 #include "art/BoardCentre.h"
@@ -201,6 +203,16 @@ std::vector<PictureEntry> catalogue() {
                        {s, s},
                        noText(paintAppIcon)});
     return out;
+}
+
+void prepareOffscreenQt() {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+        const QString dir = QDir::tempPath() + QStringLiteral("/gildenway-art-runtime");
+        QDir().mkpath(dir);
+        QFile::setPermissions(dir, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        qputenv("XDG_RUNTIME_DIR", dir.toLocal8Bit());
+    }
 }
 
 }  // namespace gw::art

@@ -27,4 +27,9 @@ std::vector<CellFace> boardFaces();
 
 std::vector<PictureEntry> catalogue();
 
+// Readies Qt to paint with no display; call before making the application object. Picks the
+// offscreen platform unless one is asked for, and gives Qt the private runtime folder it warns
+// about on every run without one.
+void prepareOffscreenQt();
+
 }  // namespace gw::art

@@ -2,13 +2,13 @@
 // and 2x (OUTDIR/board@1x.png, OUTDIR/board@2x.png, ...), and the board assembled from its
 // cells. Each picture is painted at the sheet's ratio, never scaled.
 #include <QDir>
-#include <QFile>
 #include <QFont>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMap>
 #include <QPainter>
 #include <cstdio>
+#include <string_view>
 
 #include "Catalogue.h"
 #include "art/BoardCentre.h"
@@ -108,16 +108,13 @@ QImage assembledBoard(const std::vector<PictureEntry>& all, qreal dpr) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Qt wants a private runtime folder and warns on every run without one.
-    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
-        const QString dir = QDir::tempPath() + QStringLiteral("/gildenway-art-runtime");
-        QDir().mkpath(dir);
-        QFile::setPermissions(dir, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        qputenv("XDG_RUNTIME_DIR", dir.toLocal8Bit());
+    if (argc == 2 && std::string_view(argv[1]) == "--help") {
+        std::puts("usage: gildenway-artsheet OUTDIR");
+        return 0;
     }
+    gw::art::prepareOffscreenQt();
     QGuiApplication app(argc, argv);
-    if (argc != 2) {
+    if (argc != 2 || std::string_view(argv[1]).starts_with("-")) {
         std::fprintf(stderr, "usage: gildenway-artsheet OUTDIR\n");
         return 2;
     }

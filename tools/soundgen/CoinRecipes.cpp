@@ -1,6 +1,8 @@
 // Coins: small discs that ring with a few bright, inharmonic partials and die fast. Paying
 // runs down in pitch, receiving runs up and lets the last coin ring.
 #include <array>
+#include <cstdint>
+#include <span>
 #include <vector>
 
 #include "Recipes.h"
@@ -35,7 +37,18 @@ struct Coin {
     double gain;
 };
 
-Signal coins(Noise& noise, std::span<const Coin> run) {
+constexpr std::array<Coin, 4> kPaid = {{{0.000, 3100.0, 0.06, 1.0},
+                                        {0.065, 2750.0, 0.06, 0.9},
+                                        {0.125, 2450.0, 0.06, 0.85},
+                                        {0.200, 2150.0, 0.07, 0.8}}};
+constexpr std::array<Coin, 4> kReceived = {{{0.000, 2150.0, 0.05, 0.75},
+                                            {0.055, 2500.0, 0.05, 0.8},
+                                            {0.110, 2850.0, 0.05, 0.9},
+                                            {0.165, 3250.0, 0.12, 1.0}}};
+
+// A run of coins clinking with noise from the run's own seed.
+Signal coins(std::uint32_t seed, std::span<const Coin> run) {
+    Noise noise(seed);
     Signal dry;
     for (const Coin& coin : run) {
         mixInto(dry, clink(noise, coin.frequency, coin.ring), coin.at, coin.gain);
@@ -46,21 +59,11 @@ Signal coins(Noise& noise, std::span<const Coin> run) {
 }  // namespace
 
 Draft coinsPaid() {
-    constexpr std::array<Coin, 4> kRun = {{{0.000, 3100.0, 0.06, 1.0},
-                                           {0.065, 2750.0, 0.06, 0.9},
-                                           {0.125, 2450.0, 0.06, 0.85},
-                                           {0.200, 2150.0, 0.07, 0.8}}};
-    Noise noise(3001);
-    return {inRoom(coins(noise, kRun), {.wet = 0.1, .reverbTime = 0.35}, 0.2), 0.04, 0.5};
+    return {inRoom(coins(3001, kPaid), {.wet = 0.1, .reverbTime = 0.35}, 0.2), 0.04, 0.5};
 }
 
 Draft coinsReceived() {
-    constexpr std::array<Coin, 4> kRun = {{{0.000, 2150.0, 0.05, 0.75},
-                                           {0.055, 2500.0, 0.05, 0.8},
-                                           {0.110, 2850.0, 0.05, 0.9},
-                                           {0.165, 3250.0, 0.12, 1.0}}};
-    Noise noise(3002);
-    return {inRoom(coins(noise, kRun), {.wet = 0.12, .reverbTime = 0.4}, 0.25), 0.05, 0.6};
+    return {inRoom(coins(3002, kReceived), {.wet = 0.12, .reverbTime = 0.4}, 0.25), 0.05, 0.6};
 }
 
 }  // namespace gw::soundgen

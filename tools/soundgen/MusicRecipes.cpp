@@ -22,9 +22,13 @@ struct Note {
     double gain;
 };
 
-void playBrass(Signal& out, std::span<const Note> notes, double brightness) {
+// Plays notes on the brass, moved by `semitones` and at `level` times their own gain, so a
+// line can be doubled softly an octave down.
+void playBrass(Signal& out, std::span<const Note> notes, double brightness, int semitones = 0,
+               double level = 1.0) {
     for (const Note& note : notes) {
-        mixInto(out, brass(pitch(note.midi), note.held, brightness), note.at, note.gain);
+        mixInto(out, brass(pitch(note.midi + semitones), note.held, brightness), note.at,
+                note.gain * level);
     }
 }
 
@@ -102,15 +106,13 @@ Draft policeSiren() {
 }
 
 Draft bankruptFigure() {
-    // A muted horn falling by semitones, the last note left to sag with its vibrato.
-    constexpr std::array<Note, 6> kNotes = {{{0.00, 67, 0.22, 1.0},
-                                             {0.30, 66, 0.22, 1.0},
-                                             {0.60, 65, 0.55, 1.0},
-                                             {0.00, 55, 0.22, 0.4},
-                                             {0.30, 54, 0.22, 0.4},
-                                             {0.60, 53, 0.55, 0.4}}};
+    // A muted horn falling by semitones, doubled softly an octave down, the last note left to
+    // sag with its vibrato.
+    constexpr std::array<Note, 3> kFall = {
+        {{0.00, 67, 0.22, 1.0}, {0.30, 66, 0.22, 1.0}, {0.60, 65, 0.55, 1.0}}};
     Signal dry;
-    playBrass(dry, kNotes, 0.3);
+    playBrass(dry, kFall, 0.3);
+    playBrass(dry, kFall, 0.3, -12, 0.4);
     return {inRoom(dry, {.wet = 0.15, .reverbTime = 0.6}, 0.2), 0.05};
 }
 
