@@ -21,14 +21,6 @@ protected:
         addPlayer("Cat", 2);
         letsStart();
     }
-    // A throw whose landing on an unowned cell is let go, then End Turn.
-    void throwAndPass(int a, int b) {
-        nextThrow(a, b);
-        roll();
-        if (card().isVisible() && card().forget().isOpen()) click([&] { card().forget_Click(); });
-        endTurn();
-    }
-    CellInfoWindow& card() { return windows().cellInfo; }
 };
 
 TEST_F(ClickHoles, ABuyClickDuringAWalkPastGoSeesTheRingAndBuysNothing) {

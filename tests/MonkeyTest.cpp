@@ -1,7 +1,12 @@
-// Random clicks through whole runs of the program, on a few seeds.
+// Random clicks through whole runs of the program, on a few seeds, and the random player's
+// command line.
 #include <gtest/gtest.h>
 
+#include <sstream>
+#include <vector>
+
 #include "Monkey.h"
+#include "MonkeyOptions.h"
 
 namespace gw::test {
 namespace {
@@ -11,7 +16,41 @@ TEST(Monkey, RandomClicksKeepEveryInvariantThroughWholeGames) {
         const monkey::MonkeyResult result = monkey::runMonkey(seed, 6000);
         EXPECT_EQ(result.failure, "") << "seed " << seed;
         EXPECT_EQ(result.steps, 6000);
+        EXPECT_GT(result.games, 0) << "seed " << seed;
     }
+}
+
+monkey::MonkeyOptions parse(const std::string& line) {
+    std::istringstream in(line);
+    std::vector<std::string> words;
+    for (std::string word; in >> word;) words.push_back(word);
+    const std::vector<std::string_view> args(words.begin(), words.end());
+    return monkey::parseMonkeyOptions(args);
+}
+
+TEST(MonkeyOptions, AGoodLineGivesTheRunAskedForAndHelpStopsReading) {
+    const monkey::MonkeyOptions o = parse("--steps 250 --seed 18446744073709551615");
+    EXPECT_EQ(o.error, "");
+    EXPECT_EQ(o.steps, 250);
+    EXPECT_EQ(o.seed, 18446744073709551615ULL);
+    EXPECT_EQ(parse("").steps, 100000);
+    EXPECT_TRUE(parse("--help --steps x").help);
+}
+
+TEST(MonkeyOptions, EachBadValueGetsOneLineNamingTheOption) {
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"--steps", "--steps needs a value: a whole number of 1 or more"},
+        {"--steps 0", "--steps takes a whole number of 1 or more, not \"0\""},
+        {"--steps -3", "--steps takes a whole number of 1 or more, not \"-3\""},
+        {"--steps ten", "--steps takes a whole number of 1 or more, not \"ten\""},
+        {"--seed 18446744073709551616",
+         "--seed takes a whole number from 0 to 18446744073709551615, not "
+         "\"18446744073709551616\""},
+        {"--seed -1", "--seed takes a whole number from 0 to 18446744073709551615, not \"-1\""},
+        {"5", "5 is not an option; try --help"},
+        {"--games 5", "--games is not an option; try --help"},
+    };
+    for (const auto& [line, error] : cases) EXPECT_EQ(parse(line).error, error) << line;
 }
 
 }  // namespace

@@ -73,6 +73,9 @@ protected:
     // Adds a player through the set-up window: kind, token, name, Add Player.
     void addPlayer(const std::string& name, int token, bool computer = false) {
         click([&] {
+            // Typed first: the entry closes once the next player is a computer, and its
+            // text is still compared against the names seated.
+            if (!name.empty()) start().NickName_Change(name);
             if (computer != start().nextIsComputer()) {
                 computer ? start().Image1_Click() : start().Image4_Click();
             }
@@ -93,6 +96,14 @@ protected:
     }
     void endTurn() {
         click([&] { main().endTurn_Click(); });
+    }
+    CellInfoWindow& card() { return windows().cellInfo; }
+    // A throw whose landing on an unowned cell is let go, then End Turn.
+    void throwAndPass(int a, int b) {
+        nextThrow(a, b);
+        roll();
+        if (card().isVisible() && card().forget().isOpen()) click([&] { card().forget_Click(); });
+        endTurn();
     }
     Lines buttons() const {
         const MainWindow& m = run->mainWindow();

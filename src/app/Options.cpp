@@ -27,6 +27,11 @@ Options parseOptions(const QStringList& args) {
         } else if (arg == QLatin1String("--tick-ms")) {
             if (!readNumber(args, i, 0, 1000, value)) options.error = "--tick-ms takes 0 to 1000";
             options.tickMs = static_cast<int>(value);
+        } else if (arg == QLatin1String("--close-after-ms")) {
+            if (!readNumber(args, i, 1, 600000, value)) {
+                options.error = "--close-after-ms takes 1 to 600000";
+            }
+            options.closeAfterMs = static_cast<int>(value);
         } else if (arg == QLatin1String("--seed")) {
             if (!readNumber(args, i, 0, LLONG_MAX, value)) options.error = "--seed takes a number";
             options.seed = static_cast<std::uint64_t>(value);

@@ -14,6 +14,9 @@ struct Options {
     // Seat this many computer players, start, and quit when the game is over.
     int computers = 0;
     int tickMs = 80;
+    // Close the main window by its close box this long after the start (0: never), to
+    // show that leaving in the middle of a wait ends the program cleanly.
+    int closeAfterMs = 0;
     // A fixed seed instead of the clock.
     std::optional<std::uint64_t> seed;
     QString error;

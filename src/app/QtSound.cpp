@@ -7,6 +7,8 @@
 #include <QMediaDevices>
 #include <QSoundEffect>
 
+#include "app/WavCheck.h"
+
 namespace gw::app {
 
 namespace {
@@ -41,8 +43,14 @@ QtSound::QtSound(const QStringList& folders, bool deviceCheck) {
     hasOutput_ = !deviceCheck || !QMediaDevices::audioOutputs().isEmpty();
     for (std::size_t e = 0; e < kSoundEffectCount; ++e) {
         const std::string_view name = kSoundFiles[e];
-        files_[e] =
+        const QUrl url =
             findFile(folders, QString::fromLatin1(name.data(), static_cast<int>(name.size())));
+        if (url.isEmpty()) continue;
+        if (isPlayableWav(url.toLocalFile())) {
+            files_[e] = url;
+        } else {
+            ++unplayable_;
+        }
     }
     volumes_.fill(linearVolume(kNormalVolume));
 }
@@ -52,6 +60,18 @@ QtSound::~QtSound() = default;
 int QtSound::filesFound() const {
     return static_cast<int>(std::count_if(files_.begin(), files_.end(),
                                           [](const QUrl& url) { return !url.isEmpty(); }));
+}
+
+QString QtSound::startupWarning() const {
+    const int found = filesFound();
+    if (found == 0 && unplayable_ == 0) {
+        return QStringLiteral("no sound files found; playing without sound");
+    }
+    const int silent = static_cast<int>(kSoundEffectCount) - found;
+    if (silent == 0) return {};
+    return QStringLiteral("%1 of %2 sound files missing or damaged; those sounds are silent")
+        .arg(silent)
+        .arg(kSoundEffectCount);
 }
 
 void QtSound::play(MediaPlayer player, SoundEffect effect) {

@@ -24,7 +24,10 @@ public:
     void setVolume(MediaPlayer player, int hundredthsOfDb) override;
 
     bool hasOutput() const { return hasOutput_; }
+    // Files found and whole enough to play.
     int filesFound() const;
+    // The one line to print at start-up when some sound is silent; empty when all play.
+    QString startupWarning() const;
     QUrl file(SoundEffect effect) const { return files_[static_cast<std::size_t>(effect)]; }
     qreal volume(MediaPlayer player) const { return volumes_[index(player)]; }
 
@@ -35,6 +38,7 @@ private:
     static std::size_t index(MediaPlayer p) { return static_cast<std::size_t>(p); }
 
     bool hasOutput_ = false;
+    int unplayable_ = 0;
     std::array<QUrl, kSoundEffectCount> files_;
     std::array<std::unique_ptr<QSoundEffect>, 4> playing_;
     std::array<qreal, 4> volumes_{};

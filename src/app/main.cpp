@@ -62,8 +62,8 @@ int main(int argc, char** argv) {
     }
 
     gw::app::QtSound sound(gw::app::QtSound::defaultFolders());
-    if (sound.filesFound() == 0) {
-        std::fprintf(stderr, "gildenway: no sound files found; playing without sound\n");
+    if (const QString warning = sound.startupWarning(); !warning.isEmpty()) {
+        std::fprintf(stderr, "gildenway: %s\n", qPrintable(warning));
     }
     gw::app::QtDelay delay(options.tickMs);
     gw::app::QtMessageBox messages;
@@ -85,6 +85,9 @@ int main(int argc, char** argv) {
         });
         QTimer::singleShot(
             0, [&] { gw::app::seatComputers(program.dispatch(), run, options.computers); });
+    }
+    if (options.closeAfterMs > 0) {
+        QTimer::singleShot(options.closeAfterMs, [&] { program.mainView().close(); });
     }
     return QApplication::exec();
 }

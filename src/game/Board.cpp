@@ -107,6 +107,7 @@ void Board::playOneTurn() {
 void Board::rollDice() {
     player& p = getCurrPlayer();
     MainWindowPort& main = windows_.main;
+    ++throwsThisTurn_;
     dice1_.roll();
     dice2_.roll();
     const Integer a = dice1_.getValue();
@@ -147,6 +148,7 @@ void Board::endTurn() {
         main.showInfo("You must make money first");
     } else {
         if (p.isBankrupt2() || p.getDoubleCount() == 0) {
+            throwsThisTurn_ = 0;
             // On at least once, and past every bankrupt player; one of them is left.
             for (Integer step = 0; step < numPlayer_; ++step) {
                 currPlayer_ = currPlayer_ == numPlayer_ - 1 ? Integer{0}

@@ -67,6 +67,8 @@ public:
     const Dice& dice1() const { return dice1_; }
     const Dice& dice2() const { return dice2_; }
 
+    // Throws of the dice since the turn passed to the current player: three at the most.
+    int throwsThisTurn() const { return throwsThisTurn_; }
     // How many players are not bankrupt; the game is over at one.
     Integer countSolvent() const;
     // Called after each computer turn of a run; answering false stops the run there
@@ -87,6 +89,7 @@ private:
     Dice dice1_;
     Dice dice2_;
 
+    int throwsThisTurn_ = 0;
     bool turnRunning_ = false;
     bool turnPending_ = false;
     std::function<bool()> onTurnPlayed_;

@@ -90,6 +90,7 @@ std::unique_ptr<BoardCell> makeCell(const RingEntry& entry, std::unique_ptr<cell
 void Board::init() {
     currPlayer_ = 0;
     numPlayer_ = 0;
+    throwsThisTurn_ = 0;
     jflDeck_.init();  // the deck is built and shuffled before any cell exists
     buildCells();
 }

@@ -74,17 +74,20 @@ MainWindowView::MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints
     });
 
     controls_ = std::make_unique<ControlSet>(*client_, mainWindowPlaces());
-    const std::array<std::pair<const char*, void (MainWindow::*)()>, 5> buttons = {{
-        {"rollDice", &MainWindow::rollDice_Click},
-        {"declareBank", &MainWindow::declareBank_Click},
-        {"endTurn", &MainWindow::endTurn_Click},
-        {"pay50Rent", &MainWindow::pay50Rent_Click},
-        {"useJFLCard", &MainWindow::useJFLCard_Click},
+    // Plain functions rather than member pointers: the sanitizer build of the compiler we use
+    // misreads a member-pointer call made inside a lambda.
+    using Handler = void (*)(MainWindow&);
+    const std::array<std::pair<const char*, Handler>, 5> buttons = {{
+        {"rollDice", [](MainWindow& m) { m.rollDice_Click(); }},
+        {"declareBank", [](MainWindow& m) { m.declareBank_Click(); }},
+        {"endTurn", [](MainWindow& m) { m.endTurn_Click(); }},
+        {"pay50Rent", [](MainWindow& m) { m.pay50Rent_Click(); }},
+        {"useJFLCard", [](MainWindow& m) { m.useJFLCard_Click(); }},
     }};
     for (const auto& [name, handler] : buttons) {
         if (QAbstractButton* b = controls_->button(name)) {
             connect(b, &QAbstractButton::clicked, this,
-                    [this, h = handler] { click([this, h] { (model_.*h)(); }); });
+                    [this, h = handler] { click([this, h] { h(model_); }); });
         }
     }
     buildMenus();

@@ -47,12 +47,41 @@ TEST(QtDelayTest, CutShortEndsEveryRunningWait) {
     EXPECT_EQ(delay.depth(), 0);
 }
 
+// A short mono 16-bit sound, cut after `keep` bytes when asked.
+QByteArray wav(qsizetype keep = -1) {
+    const quint32 samples = 400;
+    QByteArray data(static_cast<qsizetype>(samples * 2), '\x10');
+    QByteArray out;
+    auto u32 = [&](quint32 v) {
+        for (int i = 0; i < 4; ++i) out.append(char((v >> (8 * i)) & 0xff));
+    };
+    auto u16 = [&](quint16 v) { out.append(char(v & 0xff)).append(char(v >> 8)); };
+    out.append("RIFF");
+    u32(36 + static_cast<quint32>(data.size()));
+    out.append("WAVEfmt ");
+    u32(16);
+    u16(1);
+    u16(1);
+    u32(22050);
+    u32(44100);
+    u16(2);
+    u16(16);
+    out.append("data");
+    u32(static_cast<quint32>(data.size()));
+    out.append(data);
+    return keep < 0 ? out : out.left(keep);
+}
+
+void writeFile(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
 TEST(QtSoundTest, FindsFilesByNameInAnyCaseAndStartsAtMinusSixDecibels) {
     QTemporaryDir dir;
     ASSERT_TRUE(dir.isValid());
-    QFile file(dir.filePath("diceroll.WAV"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.close();
+    writeFile(dir.filePath("diceroll.WAV"), wav());
     app::QtSound sound({dir.path() + "/missing", dir.path()}, false);
     EXPECT_EQ(sound.filesFound(), 1);
     EXPECT_TRUE(sound.file(SoundEffect::DiceRoll).toLocalFile().endsWith("diceroll.WAV"));
@@ -64,6 +93,28 @@ TEST(QtSoundTest, FindsFilesByNameInAnyCaseAndStartsAtMinusSixDecibels) {
     sound.play(MediaPlayer::Main1, SoundEffect::Buy);  // a missing file is silence
 }
 
+// Damaged files are found, judged once and left silent; one line says so.
+TEST(QtSoundTest, EmptyTruncatedOrForeignFilesAreSilentWithOneWarning) {
+    QTemporaryDir dir;
+    ASSERT_TRUE(dir.isValid());
+    writeFile(dir.filePath("Pay.wav"), wav());
+    writeFile(dir.filePath("Buy.wav"), QByteArray());
+    writeFile(dir.filePath("Jail.wav"), wav(30));
+    writeFile(dir.filePath("Police.wav"), wav(600));  // the data chunk is cut short
+    writeFile(dir.filePath("Bankrupt.wav"), QByteArray("this is not a sound at all"));
+    app::QtSound sound({dir.path()}, false);
+    EXPECT_EQ(sound.filesFound(), 1);
+    for (SoundEffect e :
+         {SoundEffect::Buy, SoundEffect::Jail, SoundEffect::Police, SoundEffect::Bankrupt}) {
+        EXPECT_TRUE(sound.file(e).isEmpty());
+        sound.play(MediaPlayer::Main1, e);
+    }
+    EXPECT_EQ(sound.startupWarning(),
+              "17 of 18 sound files missing or damaged; those sounds are silent");
+    EXPECT_EQ(app::QtSound({dir.path() + "/none"}, false).startupWarning(),
+              "no sound files found; playing without sound");
+}
+
 TEST(OptionsTest, ReadsTheBenchOptionsAndRefusesWrongOnes) {
     const app::Options ok = app::parseOptions(
         {"gildenway", "--computers", "6", "--tick-ms", "0", "--seed", "42", "--quit-when-shown"});
@@ -72,6 +123,9 @@ TEST(OptionsTest, ReadsTheBenchOptionsAndRefusesWrongOnes) {
     EXPECT_EQ(ok.tickMs, 0);
     EXPECT_EQ(ok.seed, 42u);
     EXPECT_TRUE(ok.quitWhenShown);
+    EXPECT_EQ(ok.closeAfterMs, 0);
+    EXPECT_EQ(app::parseOptions({"gildenway", "--close-after-ms", "700"}).closeAfterMs, 700);
+    EXPECT_FALSE(app::parseOptions({"gildenway", "--close-after-ms", "0"}).error.isEmpty());
     EXPECT_FALSE(app::parseOptions({"gildenway", "--computers", "7"}).error.isEmpty());
     EXPECT_FALSE(app::parseOptions({"gildenway", "--computers"}).error.isEmpty());
     EXPECT_FALSE(app::parseOptions({"gildenway", "--fast"}).error.isEmpty());

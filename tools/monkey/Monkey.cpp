@@ -53,6 +53,7 @@ private:
         run_ = std::make_unique<GameRun>(sound_, delay_, boxes_,
                                          std::make_unique<SeededRandom>(pick_()));
         delay_.inside = [this] {
+            checkThrows();
             if (chance(0.05)) act();
         };
         run_->start();
@@ -174,9 +175,26 @@ private:
         }
     }
 
+    // Runs inside waits too: a turn's throws are counted until the turn passes on.
+    void checkThrows() {
+        if (run_->board().throwsThisTurn() > 3) fail("a fourth throw in one turn");
+    }
+
+    // Hotels stand only on streets whose whole district one player owns.
+    void checkDistrictOf(const Board& b, const Street& s, const player* owner) {
+        for (Integer c = 0; c < kCellCount; ++c) {
+            const Street* other = b.streetAt(c);
+            if (other != nullptr && other->district() == s.district() &&
+                other->getProp().getOwners() != owner) {
+                fail("hotels on a street of a district its owner does not hold");
+            }
+        }
+    }
+
     void check() {
         GameRun& r = *run_;
         if (r.hasExited() || !r.mainWindow().isVisible()) return;
+        checkThrows();
         Board& b = r.board();
         for (Integer i = 0; i < b.getNumPlayer(); ++i) {
             const player& p = *b.getPlayer(i);
@@ -199,8 +217,11 @@ private:
                     fail("an owner's table disagrees with cell " + std::to_string(c));
                 }
             }
-            if (s->getHotelCount() > 0 && (owner == nullptr || prop->getProp().isMortgaged2())) {
-                fail("hotels on a cell that is not an owned, free street");
+            if (s->getHotelCount() > 0) {
+                if (owner == nullptr || prop->getProp().isMortgaged2()) {
+                    fail("hotels on a cell that is not an owned, free street");
+                }
+                checkDistrictOf(b, *s, owner);
             }
         }
         const player& current = b.getCurrPlayer();

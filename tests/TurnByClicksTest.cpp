@@ -1,0 +1,223 @@
+// Turns as people play them, through clicks only: a tax paid after raising money on a
+// property card, a trade between two humans that asks for more, both ways out of jail, and
+// the buttons of the main window in every situation of a turn.
+#include "RunFixture.h"
+
+namespace gw::test {
+namespace {
+
+class TurnByClicks : public RunFixture {
+protected:
+    // The jail card is the first drawn, "Go to jail" the second.
+    TurnByClicks()
+        : RunFixture({1, 0, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19}) {}
+
+    void seatAnnAndBob() {
+        addPlayer("Ann", 0);
+        addPlayer("Bob", 1);
+        letsStart();
+    }
+    void buyWhereTheThrowLands(int a, int b) {
+        nextThrow(a, b);
+        roll();
+        ASSERT_TRUE(card().buy().isOpen());
+        click([&] { card().buy_Click(); });
+    }
+    // Types a sum into the trading card as a person does: focus, then keys over the selection.
+    void typeSum(const std::string& digits) {
+        TradingCardWindow& trading = windows().trading;
+        click([&] {
+            trading.amount_GotFocus();
+            for (char key : digits) trading.typeKey(key);
+        });
+    }
+    int soundsOf(SoundEffect effect) const {
+        const std::string file(soundFile(effect));
+        return static_cast<int>(std::count_if(rec.log.begin(), rec.log.end(), [&](const auto& l) {
+            return l.ends_with(": " + file);
+        }));
+    }
+};
+
+TEST_F(TurnByClicks, ATaxTooHighIsRaisedByMortgagingFromThePropertyCardThenPaid) {
+    seatAnnAndBob();
+    buyWhereTheThrowLands(1, 2);  // Ann buys Saint-Jacques
+    endTurn();
+    throwAndPass(2, 4);           // Bob: 6
+    buyWhereTheThrowLands(5, 6);  // Ann buys Saint-Paul, 14
+    endTurn();
+    throwAndPass(2, 4);           // Bob: 12
+    buyWhereTheThrowLands(5, 6);  // Ann buys the metro station Vendome, 25
+    endTurn();
+    throwAndPass(2, 4);  // Bob: 18
+    throwAndPass(4, 5);  // Ann: 34
+    // Ann is down to 30 before her turn; on her own turn, standing on a street she could
+    // not pay for, she would be offered only bankruptcy.
+    seat(0).debit(static_cast<Integer>(seat(0).getBalance() - 30));
+    throwAndPass(2, 4);
+
+    nextThrow(1, 3);  // 34 to the Luxury Tax, 75
+    roll();
+    taxCellWindow& tax = windows().taxCard;
+    ASSERT_TRUE(tax.isVisible());
+    EXPECT_EQ(tax.Label1(), "Pay $75");
+    EXPECT_TRUE(tax.payRent().visible);
+    EXPECT_FALSE(tax.payRent().enabled);
+    EXPECT_EQ(main().Label1(), "You owe $45");
+    EXPECT_EQ(buttons(),
+              (Lines{"rollDice*", "endTurn"}));  // the throw's end clears the debt layout
+
+    click([&] { main().cell_Click(25); });  // her station: the card offers a mortgage
+    ASSERT_TRUE(card().isVisible());
+    ASSERT_TRUE(card().Mortgage(0).isOpen());
+    click([&] { card().Mortgage_Click(0); });
+    EXPECT_EQ(seat(0).getBalance(), 180);
+    EXPECT_TRUE(board().propertyAt(25)->getProp().isMortgaged2());
+
+    endTurn();  // the tax is still due: its card comes back, now payable
+    EXPECT_EQ(main().Label2(), "Ann");
+    ASSERT_TRUE(tax.isVisible());
+    ASSERT_TRUE(tax.payRent().isOpen());
+    click([&] { tax.payRent_Click(); });
+    EXPECT_FALSE(tax.isVisible());
+    EXPECT_EQ(seat(0).getBalance(), 105);
+    endTurn();
+    EXPECT_EQ(main().Label2(), "Bob");
+}
+
+TEST_F(TurnByClicks, TwoHumansTradeAfterTheOwnerAsksForMore) {
+    seatAnnAndBob();
+    buyWhereTheThrowLands(1, 2);  // Ann buys Saint-Jacques for 100
+    endTurn();
+
+    TradingCardWindow& trading = windows().trading;
+    auto bobAsks = [&](const std::string& sum) {
+        click([&] { main().cell_Click(3); });
+        ASSERT_TRUE(card().trade().isOpen());
+        click([&] { card().trade_Click(); });
+        ASSERT_EQ(trading.face(), TradeFace::Buyer);
+        typeSum(sum);
+        click([&] { trading.wantIt_Click(); });
+        ASSERT_EQ(trading.face(), TradeFace::Owner);
+        for (const Control* c : {&trading.doneDeal(), &trading.wantMore(), &trading.forgetIt()}) {
+            EXPECT_TRUE(c->isOpen());
+        }
+    };
+
+    // Asking for no more than the offer ends the talk without a trade.
+    ASSERT_NO_FATAL_FAILURE(bobAsks("120"));
+    typeSum("120");
+    click([&] { trading.wantMore_Click(); });
+    EXPECT_FALSE(trading.isVisible());
+    EXPECT_EQ(board().propertyAt(3)->getProp().getOwners(), &seat(0));
+
+    ASSERT_NO_FATAL_FAILURE(bobAsks("120"));
+    EXPECT_EQ(trading.Label4().caption, "120");
+    typeSum("180");
+    click([&] { trading.wantMore_Click(); });
+    ASSERT_TRUE(trading.isVisible());
+    EXPECT_EQ(trading.face(), TradeFace::Owner);
+    EXPECT_EQ(trading.Label4().caption, "180");
+    EXPECT_EQ(trading.tradeAmount(), 180);
+    click([&] { trading.doneDeal_Click(); });
+
+    EXPECT_FALSE(trading.isVisible());
+    EXPECT_EQ(board().propertyAt(3)->getProp().getOwners(), &seat(1));
+    EXPECT_EQ(main().ownerMark(3), 1);  // Bob's token
+    EXPECT_EQ(seat(0).getBalance(), 1400 + 180);
+    EXPECT_EQ(seat(1).getBalance(), 1500 - 180);
+    EXPECT_EQ(main().Label2(), "Bob");  // the turn went on behind the card
+}
+
+TEST_F(TurnByClicks, TheJailCardTakesAnnOutAndTheThrowFollowsAtOnce) {
+    seatAnnAndBob();
+    throwAndPass(3, 4);  // Ann draws the jail card on cell 7 and keeps it
+    ASSERT_TRUE(seat(0).hasGoJFC());
+    throwAndPass(1, 2);
+    throwAndPass(6, 4);  // cell 17: "Go to jail"
+    ASSERT_TRUE(seat(0).IsInJail());
+    throwAndPass(1, 2);
+
+    EXPECT_EQ(main().Label2(), "Ann");
+    EXPECT_EQ(buttons(), (Lines{"rollDice", "endTurn*", "pay50Rent", "useJFLCard"}));
+    rec.log.clear();
+    nextThrow(1, 2);
+    click([&] { main().useJFLCard_Click(); });
+    EXPECT_FALSE(seat(0).IsInJail());
+    EXPECT_FALSE(seat(0).hasGoJFC());
+    EXPECT_EQ(seat(0).getPosition(), 13);
+    EXPECT_EQ(seat(0).getBalance(), 1500);
+    EXPECT_EQ(soundsOf(SoundEffect::DiceRoll), 0);  // the card throws without the dice sound
+    EXPECT_FALSE(main().useJFLCard().visible);
+}
+
+TEST_F(TurnByClicks, PayingFiftyFromExactlyFiftyLeavesJailAndThrows) {
+    seatAnnAndBob();
+    throwAndPass(3, 3);  // Wellington, and Ann again
+    throwAndPass(4, 4);  // Saint-Paul
+    throwAndPass(5, 5);  // the third double: jail
+    ASSERT_TRUE(seat(0).IsInJail());
+    nextThrow(1, 2);
+    roll();  // Bob
+    click([&] {
+        if (card().forget().isOpen()) card().forget_Click();
+    });
+    seat(0).debit(static_cast<Integer>(seat(0).getBalance() - 50));
+    endTurn();
+
+    EXPECT_EQ(buttons(), (Lines{"rollDice", "endTurn*", "pay50Rent"}));
+    nextThrow(2, 4);
+    click([&] { main().pay50Rent_Click(); });
+    EXPECT_FALSE(seat(0).IsInJail());
+    EXPECT_EQ(seat(0).getBalance(), 0);
+    EXPECT_EQ(seat(0).getPosition(), 16);
+    EXPECT_FALSE(main().pay50Rent().visible);
+}
+
+// Each situation of a turn and the buttons it shows; a '*' marks a closed one.
+TEST_F(TurnByClicks, TheMainWindowShowsTheButtonsOfEachSituation) {
+    addPlayer("Ann", 0);
+    addPlayer("Robot", 1, true);
+    letsStart();
+    EXPECT_EQ(buttons(), (Lines{"rollDice", "endTurn*"})) << "human to roll";
+
+    Lines walking;
+    rec.duringWaitTicks = 2;  // a step of the walk
+    rec.duringWait = [&] { walking = buttons(); };
+    buyWhereTheThrowLands(1, 2);
+    EXPECT_EQ(walking, (Lines{"rollDice*", "endTurn*"})) << "token walking";
+    EXPECT_EQ(buttons(), (Lines{"rollDice*", "endTurn"})) << "human has rolled";
+
+    // The computer, down to 2, lands on Ann's street: its card waits with the debt shown.
+    seat(1).debit(1498);
+    nextThrow(1, 2);
+    Lines computerInDebt;
+    bool rollDiceOpenInDebt = true;
+    rec.duringWaitTicks = kComputerThinkTicks;
+    rec.duringWait = [&] {
+        computerInDebt = buttons();
+        rollDiceOpenInDebt = main().rollDice().enabled;
+    };
+    endTurn();
+    EXPECT_EQ(computerInDebt, (Lines{"endTurn*", "declareBank*"})) << "computer in debt";
+    EXPECT_FALSE(rollDiceOpenInDebt);
+    EXPECT_TRUE(seat(1).isBankrupt2());
+    EXPECT_TRUE(run->gameEnd().isVisible());
+}
+
+TEST_F(TurnByClicks, AComputersTurnClosesBothButtonsAndAHumanInDebtSeesOnlyBankruptcy) {
+    addPlayer("Robot", 1, true);
+    addPlayer("Ann", 0);
+    Lines computerTurn;
+    rec.duringWaitTicks = 2;
+    rec.duringWait = [&] { computerTurn = buttons(); };
+    letsStart();  // the computer plays first
+    EXPECT_EQ(computerTurn, (Lines{"rollDice*", "endTurn*"})) << "computer's turn";
+    ASSERT_EQ(main().Label2(), "Ann");
+
+    seat(1).debit(1501);  // a debt that stands before her throw
+    EXPECT_EQ(buttons(), Lines{"declareBank"}) << "human in debt";
+}
+
+}  // namespace
+}  // namespace gw::test

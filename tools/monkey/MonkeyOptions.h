@@ -1,0 +1,22 @@
+// The command line of gildenway-monkey: --seed S and --steps N, or --help.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace gw::monkey {
+
+struct MonkeyOptions {
+    std::uint64_t seed = 1;
+    long steps = 100000;
+    bool help = false;
+    std::string error;  // one line naming the option and what it accepts; empty if none
+};
+
+inline constexpr std::string_view kMonkeyUsage = "usage: gildenway-monkey [--seed S] [--steps N]";
+
+MonkeyOptions parseMonkeyOptions(std::span<const std::string_view> args);
+
+}  // namespace gw::monkey
