@@ -56,7 +56,8 @@ if(BUILD_TESTING)
   include(GoogleTest)
   file(GLOB GUI_TEST_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/gui/*.cpp)
   add_executable(gildenway_gui_tests ${GUI_TEST_SOURCES})
-  target_link_libraries(gildenway_gui_tests PRIVATE gildenway_view Qt6::Test GTest::gtest)
+  target_link_libraries(gildenway_gui_tests PRIVATE gildenway_view gildenway_monkey Qt6::Test
+                                                    GTest::gtest)
   gtest_discover_tests(gildenway_gui_tests DISCOVERY_MODE PRE_TEST
                        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 

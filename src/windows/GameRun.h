@@ -47,8 +47,11 @@ public:
     bool hasExited() const { return exited_; }
 
     Board& board() { return board_; }
+    const Board& board() const { return board_; }
     MainWindow& mainWindow() { return main_; }
+    const MainWindow& mainWindow() const { return main_; }
     Windows& windows() { return windows_; }
+    const Windows& windows() const { return windows_; }
     GameStart& gameStart() { return start_; }
     GameEnd& gameEnd() { return end_; }
     About_Help& about() { return about_; }

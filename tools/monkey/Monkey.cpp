@@ -1,12 +1,13 @@
 #include "Monkey.h"
 
+#include "Invariants.h"
+
 #include <functional>
 #include <memory>
 #include <random>
 #include <string_view>
 #include <vector>
 
-#include "cells/Street.h"
 #include "windows/GameRun.h"
 
 namespace gw::monkey {
@@ -177,63 +178,11 @@ private:
 
     // Runs inside waits too: a turn's throws are counted until the turn passes on.
     void checkThrows() {
-        if (run_->board().throwsThisTurn() > 3) fail("a fourth throw in one turn");
-    }
-
-    // Hotels stand only on streets whose whole district one player owns.
-    void checkDistrictOf(const Board& b, const Street& s, const player* owner) {
-        for (Integer c = 0; c < kCellCount; ++c) {
-            const Street* other = b.streetAt(c);
-            if (other != nullptr && other->district() == s.district() &&
-                other->getProp().getOwners() != owner) {
-                fail("hotels on a street of a district its owner does not hold");
-            }
-        }
+        if (run_->board().throwsThisTurn() > kMaxThrowsPerTurn) fail("a fourth throw in one turn");
     }
 
     void check() {
-        GameRun& r = *run_;
-        if (r.hasExited() || !r.mainWindow().isVisible()) return;
-        checkThrows();
-        Board& b = r.board();
-        for (Integer i = 0; i < b.getNumPlayer(); ++i) {
-            const player& p = *b.getPlayer(i);
-            if (p.getPosition() < 0 || p.getPosition() >= kCellCount)
-                fail("a position off the ring");
-            if (p.getBalance() == kIntegerMax || p.getBalance() == kIntegerMin) {
-                fail("a balance at its 16-bit bound");
-            }
-        }
-        for (Integer c = 0; c < kCellCount; ++c) {
-            const PropertyCell* prop = b.propertyAt(c);
-            if (prop == nullptr) continue;
-            const player* owner = prop->getProp().getOwners();
-            if (owner != nullptr && owner->isBankrupt2()) fail("a bankrupt player owns a cell");
-            const Street* s = b.streetAt(c);
-            if (s == nullptr) continue;
-            for (Integer i = 0; i < b.getNumPlayer(); ++i) {
-                const player& p = *b.getPlayer(i);
-                if (p.ownsStreetEntry(s->district() - 1, s->streetNumber() - 1) != (&p == owner)) {
-                    fail("an owner's table disagrees with cell " + std::to_string(c));
-                }
-            }
-            if (s->getHotelCount() > 0) {
-                if (owner == nullptr || prop->getProp().isMortgaged2()) {
-                    fail("hotels on a cell that is not an owned, free street");
-                }
-                checkDistrictOf(b, *s, owner);
-            }
-        }
-        const player& current = b.getCurrPlayer();
-        const MainWindow& main = r.mainWindow();
-        const Windows& w = r.windows();
-        const bool cardUp = w.cellInfo.isVisible() || w.taxCard.isVisible() ||
-                            w.jflCard.isVisible() || w.trading.isVisible();
-        if (!current.isComputer2() && !current.isBankrupt2() && current.getBalance() < 0 &&
-            !cardUp && main.isEnabled() && !main.declareBank().isOpen()) {
-            fail("a human in debt is not offered Declare Bankruptcy");
-        }
-        if (!cardUp && !main.isEnabled()) fail("the main window is dead with no card up");
+        if (const std::string broken = brokenInvariant(*run_); !broken.empty()) fail(broken);
     }
 
     std::uint64_t seed_;
