@@ -19,30 +19,37 @@ sim::ParsedOptions parse(const std::string& line, unsigned cores = 2) {
     return sim::parseOptions(args, cores);
 }
 
+// The fields of a run, in the order the options list them.
+struct ExpectedRun {
+    long long games;
+    int players;
+    std::uint64_t seed;
+    int maxTurns;
+    int jobs;
+    bool check;
+};
+
+void expectRun(const sim::RunConfig& run, const ExpectedRun& want) {
+    EXPECT_EQ(run.games, want.games);
+    EXPECT_EQ(run.players, want.players);
+    EXPECT_EQ(run.seed, want.seed);
+    EXPECT_EQ(run.maxTurns, want.maxTurns);
+    EXPECT_EQ(run.jobs, want.jobs);
+    EXPECT_EQ(run.check, want.check);
+}
+
 TEST(SimOptions, AGoodLineGivesTheRunAskedFor) {
     const sim::ParsedOptions parsed = parse(
         "--games 1000000000 --players=6 --seed 18446744073709551615 --max-turns 7 --jobs=3 "
         "--check");
     ASSERT_TRUE(parsed.ok()) << parsed.error;
-    const sim::RunConfig& run = parsed.options.run;
-    EXPECT_EQ(run.games, 1000000000);
-    EXPECT_EQ(run.players, 6);
-    EXPECT_EQ(run.seed, 18446744073709551615ULL);
-    EXPECT_EQ(run.maxTurns, 7);
-    EXPECT_EQ(run.jobs, 3);
-    EXPECT_TRUE(run.check);
+    expectRun(parsed.options.run, {1000000000, 6, 18446744073709551615ULL, 7, 3, true});
     EXPECT_FALSE(parsed.options.help);
     EXPECT_FALSE(parsed.options.signature);
 }
 
 TEST(SimOptions, WithNoOptionsTheRunHasItsDefaultsAndAJobACore) {
-    const sim::RunConfig run = parse("", 8).options.run;
-    EXPECT_EQ(run.games, 100);
-    EXPECT_EQ(run.players, 4);
-    EXPECT_EQ(run.seed, 1u);
-    EXPECT_EQ(run.maxTurns, 10000);
-    EXPECT_EQ(run.jobs, 8);
-    EXPECT_FALSE(run.check);
+    expectRun(parse("", 8).options.run, {100, 4, 1, 10000, 8, false});
     // A machine that cannot count its cores still plays on one thread.
     EXPECT_EQ(parse("", 0).options.run.jobs, 1);
 }
