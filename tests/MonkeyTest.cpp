@@ -5,6 +5,8 @@
 #include <sstream>
 #include <vector>
 
+#include "GameFixture.h"
+#include "Invariants.h"
 #include "Monkey.h"
 #include "MonkeyOptions.h"
 
@@ -18,6 +20,29 @@ TEST(Monkey, RandomClicksKeepEveryInvariantThroughWholeGames) {
         EXPECT_EQ(result.steps, 6000);
         EXPECT_GT(result.games, 0) << "seed " << seed;
     }
+}
+
+// Hotels may outlive their district, sold off street by street, but never rise on one.
+class HotelRises : public GameFixture {
+protected:
+    player& ann = addHuman("Ann", 1);
+    player& bob = addHuman("Bob", 2);
+    monkey::HotelWatch watch;
+};
+
+TEST_F(HotelRises, AreAllowedOnAWholeDistrictAndStayWhenItIsSoldApart) {
+    give(ann, {1, 3});
+    putHotels(3, 2);
+    EXPECT_EQ(watch.check(*board), "");
+    bob.doTrade(1, 50);  // Bob buys Saint-Antoine: Saint-Jacques keeps its two hotels
+    EXPECT_EQ(watch.check(*board), "");
+}
+
+TEST_F(HotelRises, AreCaughtOnADistrictItsOwnerDoesNotHold) {
+    give(ann, {1, 3});
+    bob.doTrade(1, 50);
+    putHotels(3, 1);
+    EXPECT_EQ(watch.check(*board), "a hotel built on cell 3 of a district its owner does not hold");
 }
 
 monkey::MonkeyOptions parse(const std::string& line) {

@@ -54,7 +54,7 @@ private:
         run_ = std::make_unique<GameRun>(sound_, delay_, boxes_,
                                          std::make_unique<SeededRandom>(pick_()));
         delay_.inside = [this] {
-            checkThrows();
+            checkInsideAWait();
             if (chance(0.05)) act();
         };
         run_->start();
@@ -176,12 +176,15 @@ private:
         }
     }
 
-    // Runs inside waits too: a turn's throws are counted until the turn passes on.
-    void checkThrows() {
+    // Runs inside every wait too: a turn's throws are counted until the turn passes on, and
+    // a hotel must be seen as it is built, before a trade can break its district.
+    void checkInsideAWait() {
         if (run_->board().throwsThisTurn() > kMaxThrowsPerTurn) fail("a fourth throw in one turn");
+        if (const std::string broken = hotels_.check(run_->board()); !broken.empty()) fail(broken);
     }
 
     void check() {
+        checkInsideAWait();
         if (const std::string broken = brokenInvariant(*run_); !broken.empty()) fail(broken);
     }
 
@@ -191,6 +194,7 @@ private:
     MonkeyDelay delay_;
     RecordedMessageBox boxes_;
     std::unique_ptr<GameRun> run_;
+    HotelWatch hotels_;
     long step_ = 0;
     std::string failure_;
 };
