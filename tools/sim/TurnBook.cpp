@@ -82,6 +82,7 @@ std::optional<std::string> TurnBook::explain() {
                 if (used == 0 && !fault_) used = cellDeal(i);
                 if (used == 0 && !fault_) used = goMoney(i);
                 if (used == 0 && !fault_) used = bankPayment(i);
+                if (used == 0 && !fault_) used = absorbedAtTop(ev_[i]);
                 break;
             case Kind::Owner:
             case Kind::Hotel:
@@ -106,6 +107,16 @@ std::optional<std::string> TurnBook::explain() {
                ", jail fees " + std::to_string(jailFees_) + ")";
     }
     return std::nullopt;
+}
+
+// An update that moved no money while a purse stood full: a receipt that the 16-bit top
+// swallowed whole, after the rule that paid it had already been matched or before its
+// pair could be told apart. It is left unattributed; nothing else may pass this way.
+std::size_t TurnBook::absorbedAtTop(const Event& e) {
+    if (e.who >= 0) return 0;
+    const bool full = std::any_of(e.balances.begin(), e.balances.end(),
+                                  [](Integer b) { return b == kIntegerMax; });
+    return full ? 1 : 0;
 }
 
 // A sale between players: the seller is paid, the buyer pays, the cell changes hands.
@@ -290,6 +301,8 @@ std::size_t TurnBook::bankPayment(std::size_t i) {
     if (e.position != kIncomeTaxCell && e.position != kLuxuryTaxCell) return 0;
     if (e.who >= 0 && (e.who != p || e.delta > 0)) return 0;
     const int paid = e.who < 0 ? 0 : -e.delta;
+    // Nothing moved while a purse stood full: a receipt swallowed by the top, not a tax.
+    if (paid == 0 && absorbedAtTop(e) != 0) return 0;
     // The worth is read before the payment; the event holds it after.
     const bool due =
         e.position == kLuxuryTaxCell ? paid == kLuxuryTaxSum : isIncomeTax(e.worth - e.delta, paid);

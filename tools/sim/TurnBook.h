@@ -31,6 +31,7 @@ private:
     std::size_t rent(std::size_t i);
     std::size_t cellDeal(std::size_t i);
     std::size_t goMoney(std::size_t i);
+    static std::size_t absorbedAtTop(const Event& e);
     std::size_t bankPayment(std::size_t i);
     std::size_t marks(std::size_t i);
     std::size_t bankruptcy(std::size_t i, std::size_t end);
