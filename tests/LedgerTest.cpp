@@ -142,5 +142,19 @@ TEST_F(Ledger, TheLedgersOwnTablesAgreeWithTheCells) {
     }
 }
 
+// A full purse swallows what it is paid; an update that moves nothing then passes, on a tax
+// cell too, but only while some purse is full.
+TEST_F(Ledger, NothingMovedPassesOnlyWhileAPurseIsFull) {
+    placeAt(*a, 4);
+    b->credit(static_cast<Integer>(kIntegerMax - b->getBalance()));
+    startTurn();
+    b->credit(25);
+    EXPECT_EQ(fault(), "");
+    b->debit(1);
+    startTurn();
+    b->credit(0);
+    EXPECT_TRUE(names(fault(), "paid a tax of 0 on cell 4 (Income Tax)"));
+}
+
 }  // namespace
 }  // namespace gw::test
