@@ -81,6 +81,7 @@ private:
 
     Integer currPlayer_ = 0;
     Integer numPlayer_ = 0;
+    int throwsThisTurn_ = 0;
     std::array<std::unique_ptr<player>, kMaxPlayers> players_;
     std::array<std::unique_ptr<BoardCell>, kCellCount> cells_;
     Windows& windows_;
@@ -89,7 +90,6 @@ private:
     Dice dice1_;
     Dice dice2_;
 
-    int throwsThisTurn_ = 0;
     bool turnRunning_ = false;
     bool turnPending_ = false;
     std::function<bool()> onTurnPlayed_;
