@@ -2,9 +2,9 @@
 // command line.
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <vector>
 
+#include "CommandLine.h"
 #include "GameFixture.h"
 #include "Invariants.h"
 #include "Monkey.h"
@@ -46,11 +46,7 @@ TEST_F(HotelRises, AreCaughtOnADistrictItsOwnerDoesNotHold) {
 }
 
 monkey::MonkeyOptions parse(const std::string& line) {
-    std::istringstream in(line);
-    std::vector<std::string> words;
-    for (std::string word; in >> word;) words.push_back(word);
-    const std::vector<std::string_view> args(words.begin(), words.end());
-    return monkey::parseMonkeyOptions(args);
+    return parseLine(line, monkey::parseMonkeyOptions);
 }
 
 TEST(MonkeyOptions, AGoodLineGivesTheRunAskedForAndHelpStopsReading) {

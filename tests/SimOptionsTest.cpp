@@ -2,21 +2,16 @@
 // gives one line that names the option and what it accepts.
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
-#include <vector>
 
+#include "CommandLine.h"
 #include "Options.h"
 
 namespace gw::test {
 namespace {
 
 sim::ParsedOptions parse(const std::string& line, unsigned cores = 2) {
-    std::istringstream in(line);
-    std::vector<std::string> words;
-    for (std::string word; in >> word;) words.push_back(word);
-    const std::vector<std::string_view> args(words.begin(), words.end());
-    return sim::parseOptions(args, cores);
+    return parseLine(line, [cores](auto args) { return sim::parseOptions(args, cores); });
 }
 
 // The fields of a run, in the order the options list them.

@@ -6,6 +6,8 @@
 namespace gw::monkey {
 namespace {
 
+constexpr int kMaxThrowsPerTurn = 3;
+
 std::string brokenByPlayers(const Board& b) {
     for (Integer i = 0; i < b.getNumPlayer(); ++i) {
         const player& p = *b.getPlayer(i);
@@ -14,11 +16,10 @@ std::string brokenByPlayers(const Board& b) {
         // run to the bottom.
         if (p.getBalance() == kIntegerMin) return "a balance at its lowest 16-bit bound";
     }
-    if (b.throwsThisTurn() > kMaxThrowsPerTurn) return "a fourth throw in one turn";
-    return {};
+    return brokenWithinATurn(b);
 }
 
-// Hotels stand only on streets whose whole district their owner holds.
+// Whether one player holds every street of the district of s.
 bool districtHeldBy(const Board& b, const Street& s, const player* owner) {
     for (Integer c = 0; c < kCellCount; ++c) {
         const Street* other = b.streetAt(c);
@@ -75,6 +76,10 @@ std::string brokenInvariant(const GameRun& run) {
     if (broken.empty()) broken = brokenByCells(b);
     if (broken.empty()) broken = brokenByWindows(run);
     return broken;
+}
+
+std::string brokenWithinATurn(const Board& b) {
+    return b.throwsThisTurn() > kMaxThrowsPerTurn ? "a fourth throw in one turn" : "";
 }
 
 std::string HotelWatch::check(const Board& b) {

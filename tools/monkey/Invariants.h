@@ -17,10 +17,12 @@ class GameRun;
 
 namespace gw::monkey {
 
-inline constexpr int kMaxThrowsPerTurn = 3;
-
 // The first invariant found broken, described; empty when all hold.
 std::string brokenInvariant(const GameRun& run);
+
+// What must hold even in the middle of a turn, inside its waits: no more than three throws
+// since the turn passed on (the count starts again with the next turn).
+std::string brokenWithinATurn(const Board& board);
 
 // Hotels are built only on a street of a district its owner holds whole. A later sale of
 // another street of the district leaves them standing, so each rise is checked as it is

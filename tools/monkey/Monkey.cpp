@@ -176,16 +176,21 @@ private:
         }
     }
 
-    // Runs inside every wait too: a turn's throws are counted until the turn passes on, and
-    // a hotel must be seen as it is built, before a trade can break its district.
+    // Inside every wait: a turn's throws are counted until the turn passes on, and a hotel
+    // must be seen as it is built, before a trade can break its district.
     void checkInsideAWait() {
-        if (run_->board().throwsThisTurn() > kMaxThrowsPerTurn) fail("a fourth throw in one turn");
-        if (const std::string broken = hotels_.check(run_->board()); !broken.empty()) fail(broken);
+        failIfBroken(brokenWithinATurn(run_->board()));
+        failIfBroken(hotels_.check(run_->board()));
     }
 
+    // Between two steps: every invariant.
     void check() {
-        checkInsideAWait();
-        if (const std::string broken = brokenInvariant(*run_); !broken.empty()) fail(broken);
+        failIfBroken(brokenInvariant(*run_));
+        failIfBroken(hotels_.check(run_->board()));
+    }
+
+    void failIfBroken(const std::string& broken) {
+        if (!broken.empty()) fail(broken);
     }
 
     std::uint64_t seed_;

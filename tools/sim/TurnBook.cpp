@@ -81,8 +81,8 @@ std::optional<std::string> TurnBook::explain() {
                 if (used == 0 && !fault_) used = rent(i);
                 if (used == 0 && !fault_) used = cellDeal(i);
                 if (used == 0 && !fault_) used = goMoney(i);
-                if (used == 0 && !fault_) used = bankPayment(i);
                 if (used == 0 && !fault_) used = absorbedAtTop(ev_[i]);
+                if (used == 0 && !fault_) used = bankPayment(i);
                 break;
             case Kind::Owner:
             case Kind::Hotel:
@@ -111,7 +111,7 @@ std::optional<std::string> TurnBook::explain() {
 
 // An update that moved no money while a purse stood full: a receipt that the 16-bit top
 // swallowed whole, after the rule that paid it had already been matched or before its
-// pair could be told apart. It is left unattributed; nothing else may pass this way.
+// pair could be told apart. It is left unattributed, and read before a tax of 0 could be.
 std::size_t TurnBook::absorbedAtTop(const Event& e) {
     if (e.who >= 0) return 0;
     const bool full = std::any_of(e.balances.begin(), e.balances.end(),
@@ -301,8 +301,6 @@ std::size_t TurnBook::bankPayment(std::size_t i) {
     if (e.position != kIncomeTaxCell && e.position != kLuxuryTaxCell) return 0;
     if (e.who >= 0 && (e.who != p || e.delta > 0)) return 0;
     const int paid = e.who < 0 ? 0 : -e.delta;
-    // Nothing moved while a purse stood full: a receipt swallowed by the top, not a tax.
-    if (paid == 0 && absorbedAtTop(e) != 0) return 0;
     // The worth is read before the payment; the event holds it after.
     const bool due =
         e.position == kLuxuryTaxCell ? paid == kLuxuryTaxSum : isIncomeTax(e.worth - e.delta, paid);
