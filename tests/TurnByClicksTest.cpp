@@ -85,6 +85,37 @@ TEST_F(TurnByClicks, ATaxTooHighIsRaisedByMortgagingFromThePropertyCardThenPaid)
     EXPECT_EQ(main().Label2(), "Bob");
 }
 
+TEST_F(TurnByClicks, ACellDealtWithBeforeTheThrowLeavesTheLandingStillDue) {
+    seatAnnAndBob();
+    nextThrow(1, 2);  // Ann to Saint-Jacques, which she leaves to the bank
+    roll();
+    click([&] { card().forget_Click(); });
+    endTurn();
+    buyWhereTheThrowLands(2, 4);  // Bob buys cell 6
+    endTurn();
+
+    // Before her throw Ann clicks the cell under her token: its card comes up again and
+    // she leaves it again, which deals with that cell.
+    click([&] { main().cell_Click(3); });
+    ASSERT_TRUE(card().forget().isOpen());
+    click([&] { card().forget_Click(); });
+    ASSERT_TRUE(seat(0).getDidAction());
+
+    nextThrow(1, 2);  // on to Bob's street: its rent is due all the same
+    roll();
+    ASSERT_TRUE(card().payRent().isOpen());
+    endTurn();
+    EXPECT_EQ(main().Label1(), "Ann, its your turn to play.");
+    EXPECT_EQ(board().getCurrPlayerIndex(), 0);
+    ASSERT_TRUE(card().payRent().isOpen());
+    const Integer before = seat(1).getBalance();
+    click([&] { card().payRent_Click(); });
+    EXPECT_GT(seat(1).getBalance(), before);
+    EXPECT_EQ(seat(0).getBalance() + seat(1).getBalance(), 1500 + before);
+    endTurn();
+    EXPECT_EQ(board().getCurrPlayerIndex(), 1);
+}
+
 TEST_F(TurnByClicks, TwoHumansTradeAfterTheOwnerAsksForMore) {
     seatAnnAndBob();
     buyWhereTheThrowLands(1, 2);  // Ann buys Saint-Jacques for 100

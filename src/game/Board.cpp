@@ -98,6 +98,10 @@ void Board::playOneTurn() {
         endTurn();
         return;
     }
+    // The throw takes the token off a cell that may have been dealt with before it, by a
+    // click on the cell under the token; the cell it lands on has still to be dealt with,
+    // or a rent or a tax could be left unpaid at End Turn.
+    p.setDidAction(false);
     rollDice();
     player& current = getCurrPlayer();
     getCell(current.getPosition())->doAction(current);
