@@ -6,7 +6,8 @@ GameRun::GameRun(Sound& sound, Delay& delay, MessageBox& messages, std::unique_p
     : sound_(sound),
       delay_(*this, delay),
       main_(sound, delay_),
-      windows_(main_, sound, delay_),
+      rulesWindow_(main_),
+      windows_(rulesWindow_, sound, delay_),
       board_(windows_, std::move(random)),
       start_(board_, sound, messages),
       end_(main_) {
@@ -29,6 +30,11 @@ void GameRun::setOnChanged(std::function<void()> hook) {
     start_.setOnChanged(hook);
     end_.setOnChanged(hook);
     about_.setOnChanged(std::move(hook));
+}
+
+void GameRun::watchMainWindow(MainWindowPort& watcher, std::function<void()> onGameBegin) {
+    rulesWindow_.setWatcher(&watcher);
+    onGameBegin_ = std::move(onGameBegin);
 }
 
 void GameRun::click(const std::function<void()>& handler) {
@@ -76,6 +82,7 @@ void GameRun::newGame() {
 
 void GameRun::beginGame(const GameSetup& setup) {
     board_.addPlayers(setup);
+    if (onGameBegin_) onGameBegin_();
     main_.init(board_);
     main_.show();
     main_.startGame();

@@ -13,6 +13,7 @@
 #include "windows/GameEnd.h"
 #include "windows/GameStart.h"
 #include "windows/MainWindow.h"
+#include "windows/MainWindowTee.h"
 #include "windows/MessageBox.h"
 #include "windows/Sound.h"
 #include "windows/Windows.h"
@@ -40,6 +41,10 @@ public:
     // from the event loop, which runs inside every wait: one rule step may change a
     // model several times, and only the last state needs drawing.
     void setOnChanged(std::function<void()> hook);
+    // A second main window that hears every call the rules make to the first, and a hook
+    // run as each game begins, its players seated and no turn played: for tools that keep
+    // their own books of what people do through the windows.
+    void watchMainWindow(MainWindowPort& watcher, std::function<void()> onGameBegin);
 
     // True from the moment the end of the program or a new game is asked for until it
     // has happened: waits return at once and no further computer turn starts.
@@ -77,6 +82,7 @@ private:
     Sound& sound_;
     RunDelay delay_;
     MainWindow main_;
+    MainWindowTee rulesWindow_;
     Windows windows_;
     Board board_;
     GameStart start_;
@@ -88,6 +94,7 @@ private:
     bool newGamePending_ = false;
     bool exited_ = false;
     std::function<void()> onExit_;
+    std::function<void()> onGameBegin_;
 };
 
 }  // namespace gw

@@ -1,6 +1,7 @@
 #include "Monkey.h"
 
 #include "Invariants.h"
+#include "MoneyBooks.h"
 
 #include <functional>
 #include <memory>
@@ -53,9 +54,14 @@ private:
     void newRun() {
         run_ = std::make_unique<GameRun>(sound_, delay_, boxes_,
                                          std::make_unique<SeededRandom>(pick_()));
+        run_->watchMainWindow(books_.window(), [this] { books_.begin(run_->board()); });
         delay_.inside = [this] {
             checkInsideAWait();
-            if (chance(0.05)) act();
+            if (chance(0.05)) {
+                const std::size_t mark = books_.mark();
+                act();
+                books_.setAside(mark);
+            }
         };
         run_->start();
     }
@@ -183,10 +189,12 @@ private:
         failIfBroken(hotels_.check(run_->board()));
     }
 
-    // Between two steps: every invariant.
+    // Between two steps: every invariant, and the books of the game, which stand idle
+    // while the set-up window is up between two games.
     void check() {
         failIfBroken(brokenInvariant(*run_));
         failIfBroken(hotels_.check(run_->board()));
+        if (!run_->gameStart().isVisible()) failIfBroken(books_.check());
     }
 
     void failIfBroken(const std::string& broken) {
@@ -198,6 +206,7 @@ private:
     SilentSound sound_;
     MonkeyDelay delay_;
     RecordedMessageBox boxes_;
+    MoneyBooks books_;
     std::unique_ptr<GameRun> run_;
     HotelWatch hotels_;
     long step_ = 0;

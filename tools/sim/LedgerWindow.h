@@ -57,6 +57,13 @@ public:
 
     const std::vector<Event>& events() const { return events_; }
     void clearEvents() { events_.clear(); }
+    // Takes out the events recorded since there were `from` of them, leaving the others.
+    std::vector<Event> takeEventsFrom(std::size_t from) {
+        const auto first = events_.begin() + static_cast<std::ptrdiff_t>(from);
+        std::vector<Event> taken(first, events_.end());
+        events_.erase(first, events_.end());
+        return taken;
+    }
     // What went wrong while the game ran, beyond the reach of the checks after a turn.
     const std::string& fault() const { return fault_; }
     const std::array<Integer, kMaxPlayers>& balances() const { return balances_; }

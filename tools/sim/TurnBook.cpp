@@ -120,23 +120,30 @@ std::size_t TurnBook::absorbedAtTop(const Event& e) {
 }
 
 // A sale between players: the seller is paid, the buyer pays, the cell changes hands.
-// Between computers the buyer is always the player at turn, at one of autoTrade's offers.
+// Between computers the buyer is always the player at turn, at one of autoTrade's offers;
+// a person names any sum and answers a card when he likes, in whoever's turn that is.
 std::size_t TurnBook::sale(std::size_t i) {
     const Event& credit = ev_[i];
     const Event* debit = at(i + 1);
     const Event* shown = at(i + 2);
-    const int buyer = credit.current;
     if (!isMoney(debit) || shown == nullptr || shown->kind != Kind::Owner) return 0;
-    if (debit->who != buyer || debit->delta > 0 || shown->owner != buyer) return 0;
+    // A sum of 0 changes no balance: two updates that move nothing.
+    const bool free = credit.who < 0 && debit->who < 0;
+    const int buyer = free ? shown->owner : debit->who;
+    const int seller = shown->shownOwner;
+    if (buyer < 0 || debit->delta > 0 || shown->owner != buyer) return 0;
     const int amount = -debit->delta;
-    if (shown->shownOwner < 0 || !isCredit(credit, shown->shownOwner, amount)) return 0;
-    if (!isOffer(shown->cell, amount)) {
-        fail(who(buyer) + " bought " + cell(shown->cell) + " from " + who(shown->shownOwner) +
-             " for " + std::to_string(amount) + ", which no offer of a computer makes");
-        return 0;
+    if (seller < 0 || !(free || isCredit(credit, seller, amount))) return 0;
+    if (isComputer(buyer) && isComputer(seller)) {
+        if (buyer != credit.current) return 0;
+        if (!isOffer(shown->cell, amount)) {
+            fail(who(buyer) + " bought " + cell(shown->cell) + " from " + who(seller) + " for " +
+                 std::to_string(amount) + ", which no offer of a computer makes");
+            return 0;
+        }
+        computerTest(credit, buyer, bought_, balanceBefore(credit, buyer) > kComputerTradesAbove,
+                     "made an offer to buy");
     }
-    computerTest(credit, bought_, balanceBefore(credit, buyer) > kComputerTradesAbove,
-                 "made an offer to buy");
     received(credit, amount);
     return 3;
 }
@@ -169,12 +176,14 @@ std::size_t TurnBook::rent(std::size_t i) {
     return 0;
 }
 
-// A deal with the bank over one cell of the player at turn, shown on the cell right after.
+// A deal with the bank over one cell of its owner, shown on the cell right after. A
+// computer deals in its own turn; a person may still use a card left open into another's.
 std::size_t TurnBook::cellDeal(std::size_t i) {
     const Event& e = ev_[i];
     const Event* shown = at(i + 1);
-    const int p = e.current;
-    if (!isMark(shown) || shown->owner != p || e.who != p) return 0;
+    const int p = e.who;
+    if (!isMark(shown) || p < 0 || shown->owner != p) return 0;
+    if (p != e.current && isComputer(p)) return 0;
     const CellTariff& t = tariffOf(shown->cell);
     const auto expect = [&](int amount, const std::string& deal) {
         const int moved = e.delta < 0 ? -e.delta : e.delta;
@@ -190,14 +199,15 @@ std::size_t TurnBook::cellDeal(std::size_t i) {
             const int added = shown->hotels - shown->shownHotels;
             if (added == 1 && e.delta < 0) {
                 if (!expect(t.hotelCost, "built a hotel on")) return 0;
-                computerTest(e, built_, balanceBefore(e, p) > kComputerBuildsAbove,
+                computerTest(e, p, built_, balanceBefore(e, p) > kComputerBuildsAbove,
                              "built a hotel");
                 return toBank(t.hotelCost) + 1;
             }
             if (added == -1 && e.delta > 0) {
                 if (!expect(t.hotelCost, "sold a hotel of")) return 0;
                 bool once = false;
-                computerTest(e, once, balanceBefore(e, p) < kComputerRaisesBelow, "sold a hotel");
+                computerTest(e, p, once, balanceBefore(e, p) < kComputerRaisesBelow,
+                             "sold a hotel");
                 return fromBank(e, t.hotelCost) + 1;
             }
             return 0;
@@ -207,12 +217,12 @@ std::size_t TurnBook::cellDeal(std::size_t i) {
             if (shown->mortgaged && e.delta > 0) {
                 if (!expect(t.mortgage, "mortgaged")) return 0;
                 bool once = false;
-                computerTest(e, once, balanceBefore(e, p) < kComputerRaisesBelow, "mortgaged");
+                computerTest(e, p, once, balanceBefore(e, p) < kComputerRaisesBelow, "mortgaged");
                 return fromBank(e, t.mortgage) + 1;
             }
             if (!shown->mortgaged && e.delta < 0 && !goesBackToBank(i + 2, shown->cell)) {
                 if (!expect(t.release, "released")) return 0;
-                computerTest(e, released_, balanceBefore(e, p) >= kComputerReleasesFrom,
+                computerTest(e, p, released_, balanceBefore(e, p) >= kComputerReleasesFrom,
                              "released a mortgage");
                 return toBank(t.release) + 1;
             }
@@ -364,11 +374,11 @@ bool TurnBook::goesBackToBank(std::size_t i, Integer c) const {
     return isMark(next) && next->cell == c && next->owner < 0;
 }
 
-void TurnBook::computerTest(const Event& e, bool& seen, bool passes, const std::string& what) {
-    if (seen) return;
+void TurnBook::computerTest(const Event& e, int p, bool& seen, bool passes,
+                            const std::string& what) {
+    if (seen || !isComputer(p)) return;
     seen = true;
-    const int p = e.current;
-    if (passes || !board_.getPlayer(static_cast<Integer>(p))->isComputer2()) return;
+    if (passes) return;
     fail(who(p) + " " + what + " with " + std::to_string(balanceBefore(e, p)) +
          " in hand, which its balance test does not allow");
 }
@@ -382,6 +392,10 @@ std::size_t TurnBook::fromBank(const Event& e, int amount) {
 std::size_t TurnBook::toBank(int amount) {
     bankNet_ -= amount;
     return 1;
+}
+
+bool TurnBook::isComputer(int slot) const {
+    return board_.getPlayer(static_cast<Integer>(slot))->isComputer2();
 }
 
 void TurnBook::fail(std::string what) {

@@ -38,11 +38,13 @@ private:
     // Whether the walk whose first stroke is ev_[first] and last stroke `last` pays Go money.
     bool walkPaysGo(std::size_t first, const Event& last) const;
     bool goesBackToBank(std::size_t i, Integer cell) const;
-    // The computer's balance tests, checked on the first payment that each one lets through.
-    void computerTest(const Event& e, bool& seen, bool passes, const std::string& what);
+    // A computer's balance tests, checked on the first payment that each one lets through
+    // for player p.
+    void computerTest(const Event& e, int p, bool& seen, bool passes, const std::string& what);
     std::size_t fromBank(const Event& e, int amount);
     std::size_t toBank(int amount);
     void received(const Event& e, int amount) { lost_ += amount - e.delta; }
+    bool isComputer(int slot) const;
     void fail(std::string what);
     std::string who(int slot) const;
     std::string cell(Integer c) const;
