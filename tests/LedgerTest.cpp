@@ -156,5 +156,22 @@ TEST_F(Ledger, NothingMovedPassesOnlyWhileAPurseIsFull) {
     EXPECT_TRUE(names(fault(), "paid a tax of 0 on cell 4 (Income Tax)"));
 }
 
+// A person may use a property card left open into another's turn, and a full purse takes
+// in a mortgage whole; a computer deals with the bank only in its own turn.
+TEST_F(Ledger, OnlyAPersonDealsOnHisCellsInAnothersTurn) {
+    player& d = *board->addPlayer("D", true, 3);
+    own(*b, {1, 3});
+    own(d, {6});
+    startTurn();
+    b->mortgageProp(1);
+    EXPECT_EQ(fault(), "");
+    b->credit(static_cast<Integer>(kIntegerMax - b->getBalance()));
+    startTurn();
+    b->mortgageProp(3);
+    EXPECT_EQ(fault(), "");
+    d.mortgageProp(6);
+    EXPECT_TRUE(names(fault(), "money moved that no rule explains: D +65"));
+}
+
 }  // namespace
 }  // namespace gw::test

@@ -181,8 +181,10 @@ std::size_t TurnBook::rent(std::size_t i) {
 std::size_t TurnBook::cellDeal(std::size_t i) {
     const Event& e = ev_[i];
     const Event* shown = at(i + 1);
-    const int p = e.who;
-    if (!isMark(shown) || p < 0 || shown->owner != p) return 0;
+    if (!isMark(shown)) return 0;
+    // A receipt that a full purse swallowed whole names nobody: the cell names its owner.
+    const int p = e.who >= 0 ? e.who : shown->owner;
+    if (p < 0 || shown->owner != p) return 0;
     if (p != e.current && isComputer(p)) return 0;
     const CellTariff& t = tariffOf(shown->cell);
     const auto expect = [&](int amount, const std::string& deal) {
@@ -203,7 +205,7 @@ std::size_t TurnBook::cellDeal(std::size_t i) {
                              "built a hotel");
                 return toBank(t.hotelCost) + 1;
             }
-            if (added == -1 && e.delta > 0) {
+            if (added == -1 && e.delta >= 0) {
                 if (!expect(t.hotelCost, "sold a hotel of")) return 0;
                 bool once = false;
                 computerTest(e, p, once, balanceBefore(e, p) < kComputerRaisesBelow,
@@ -214,7 +216,7 @@ std::size_t TurnBook::cellDeal(std::size_t i) {
         }
         case Kind::Mort: {
             if (shown->shownMortgaged == shown->mortgaged) return 0;
-            if (shown->mortgaged && e.delta > 0) {
+            if (shown->mortgaged && e.delta >= 0) {
                 if (!expect(t.mortgage, "mortgaged")) return 0;
                 bool once = false;
                 computerTest(e, p, once, balanceBefore(e, p) < kComputerRaisesBelow, "mortgaged");
