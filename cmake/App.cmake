@@ -70,13 +70,21 @@ if(BUILD_TESTING)
     FAIL_REGULAR_EXPRESSION "sound files"
     TIMEOUT 30)
 
-  # The close box used while computers play, so inside a walk, a throw or a card's wait:
-  # the process ends at once with code 0 (and, in the sanitizer build, no leak).
-  foreach(after 300 700 1300)
-    add_test(NAME gui_close_inside_a_wait_${after}ms
-             COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen
-                     $<TARGET_FILE:gildenway> --computers 4 --seed 5 --tick-ms 10
-                     --close-after-ms ${after})
-    set_tests_properties(gui_close_inside_a_wait_${after}ms PROPERTIES TIMEOUT 60)
+  # The close box and File > Exit used while computers play, so inside a walk, a throw or a
+  # card's wait: the process ends at once with code 0 (and, in the sanitizer build, no leak).
+  foreach(by close exit)
+    foreach(after 300 700 1300)
+      add_test(NAME gui_${by}_inside_a_wait_${after}ms
+               COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen
+                       $<TARGET_FILE:gildenway> --computers 4 --seed 5 --tick-ms 10
+                       --close-after-ms ${after} --leave-by ${by})
+      set_tests_properties(gui_${by}_inside_a_wait_${after}ms PROPERTIES TIMEOUT 60)
+    endforeach()
   endforeach()
+  # A whole game of two computers at full speed, left by the end window's "Exit game"
+  # (about 40 s in the Release build: every wait repaints the board).
+  add_test(NAME gui_exit_game_at_the_end
+           COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen
+                   $<TARGET_FILE:gildenway> --computers 2 --seed 3 --tick-ms 0)
+  set_tests_properties(gui_exit_game_at_the_end PROPERTIES TIMEOUT 600)
 endif()

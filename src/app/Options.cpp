@@ -32,6 +32,15 @@ Options parseOptions(const QStringList& args) {
                 options.error = "--close-after-ms takes 1 to 600000";
             }
             options.closeAfterMs = static_cast<int>(value);
+        } else if (arg == QLatin1String("--leave-by")) {
+            const QString by = i + 1 < args.size() ? args[++i] : QString();
+            if (by == QLatin1String("close")) {
+                options.leaveBy = Options::Leave::CloseBox;
+            } else if (by == QLatin1String("exit")) {
+                options.leaveBy = Options::Leave::FileExit;
+            } else {
+                options.error = "--leave-by takes close or exit";
+            }
         } else if (arg == QLatin1String("--seed")) {
             if (!readNumber(args, i, 0, LLONG_MAX, value)) options.error = "--seed takes a number";
             options.seed = static_cast<std::uint64_t>(value);

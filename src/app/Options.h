@@ -14,9 +14,11 @@ struct Options {
     // Seat this many computer players, start, and quit when the game is over.
     int computers = 0;
     int tickMs = 80;
-    // Close the main window by its close box this long after the start (0: never), to
-    // show that leaving in the middle of a wait ends the program cleanly.
+    // Leave the program this long after the start (0: never), by the main window's close
+    // box or by File > Exit, to show that leaving in the middle of a wait ends it cleanly.
     int closeAfterMs = 0;
+    enum class Leave { CloseBox, FileExit };
+    Leave leaveBy = Leave::CloseBox;
     // A fixed seed instead of the clock.
     std::optional<std::uint64_t> seed;
     QString error;

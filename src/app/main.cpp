@@ -87,7 +87,13 @@ int main(int argc, char** argv) {
             0, [&] { gw::app::seatComputers(program.dispatch(), run, options.computers); });
     }
     if (options.closeAfterMs > 0) {
-        QTimer::singleShot(options.closeAfterMs, [&] { program.mainView().close(); });
+        QTimer::singleShot(options.closeAfterMs, [&] {
+            if (options.leaveBy == gw::app::Options::Leave::FileExit) {
+                program.mainView().action("Exit").trigger();
+            } else {
+                program.mainView().close();
+            }
+        });
     }
     return QApplication::exec();
 }

@@ -126,6 +126,12 @@ TEST(OptionsTest, ReadsTheBenchOptionsAndRefusesWrongOnes) {
     EXPECT_EQ(ok.closeAfterMs, 0);
     EXPECT_EQ(app::parseOptions({"gildenway", "--close-after-ms", "700"}).closeAfterMs, 700);
     EXPECT_FALSE(app::parseOptions({"gildenway", "--close-after-ms", "0"}).error.isEmpty());
+    EXPECT_EQ(ok.leaveBy, app::Options::Leave::CloseBox);
+    EXPECT_EQ(app::parseOptions({"gildenway", "--leave-by", "exit"}).leaveBy,
+              app::Options::Leave::FileExit);
+    EXPECT_EQ(app::parseOptions({"gildenway", "--leave-by", "door"}).error,
+              "--leave-by takes close or exit");
+    EXPECT_FALSE(app::parseOptions({"gildenway", "--leave-by"}).error.isEmpty());
     EXPECT_FALSE(app::parseOptions({"gildenway", "--computers", "7"}).error.isEmpty());
     EXPECT_FALSE(app::parseOptions({"gildenway", "--computers"}).error.isEmpty());
     EXPECT_FALSE(app::parseOptions({"gildenway", "--fast"}).error.isEmpty());
