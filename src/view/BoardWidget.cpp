@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <cmath>
 
 #include "art/Render.h"
 #include "view/BoardLayout.h"
@@ -24,6 +25,13 @@ constexpr std::array<int, kCells> paintOrder() {
     return order;
 }
 constexpr auto kPaintOrder = paintOrder();
+
+// Device pixels to a logical one: the screen's ratio, or the scale of a rendering into a
+// larger picture, which the painter's device transform carries in both cases.
+qreal pixelRatio(const QPainter& p) {
+    const qreal scale = p.deviceTransform().m11();
+    return scale > 0 ? scale : p.device()->devicePixelRatioF();
+}
 
 QRectF dieSquare(int die) {
     const QRectF r = dieRect(die);
@@ -55,7 +63,7 @@ const QPixmap& BoardWidget::background(qreal dpr) {
 
 void BoardWidget::paintEvent(QPaintEvent*) {
     QPainter p(this);
-    p.drawPixmap(0, 0, background(p.device()->devicePixelRatioF()));
+    p.drawPixmap(0, 0, background(pixelRatio(p)));
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
 
@@ -63,28 +71,72 @@ void BoardWidget::paintEvent(QPaintEvent*) {
     for (int id = kMaxPlayers - 1; id >= 0; --id) {
         const MainWindow::BigToken& token = model_.bigToken(id);
         const int picture = model_.panel(id).token;
-        if (token.visible && picture >= 0) paintToken(p, bigTokenRect(id, token.cell), picture);
+        if (token.visible && picture >= 0) {
+            drawSprite(p, bigTokenRect(id, token.cell), Sprite::Token, picture);
+        }
     }
     for (int c = 0; c < kCells; ++c) {
         const int owner = model_.ownerMark(c);
-        if (owner >= 0) paintToken(p, ownerRect(c), owner);
+        if (owner >= 0) drawSprite(p, ownerRect(c), Sprite::Token, owner);
     }
-    if (model_.dieFace1() > 0) paintDie(p, dieSquare(1), model_.dieFace1());
-    if (model_.dieFace2() > 0) paintDie(p, dieSquare(2), model_.dieFace2());
+    if (model_.dieFace1() > 0) drawSprite(p, dieSquare(1), Sprite::Die, model_.dieFace1());
+    if (model_.dieFace2() > 0) drawSprite(p, dieSquare(2), Sprite::Die, model_.dieFace2());
     for (int c = 0; c < kCells; ++c) {
         for (int s = 0; s < kMaxPlayers; ++s) {
             const int picture = model_.square(c, s);
-            if (picture >= 0) paintToken(p, squareRect(c, s), picture);
+            if (picture >= 0) drawSprite(p, squareRect(c, s), Sprite::Token, picture);
         }
     }
     for (int c = 0; c < kCells; ++c) {
         for (int h = 0; h < model_.hotelsShown(c) && h < 4; ++h) {
-            paintHotel(p, hotelRect(c, h), isSideCell(c));
+            drawSprite(p, hotelRect(c, h), Sprite::Hotel, isSideCell(c) ? 1 : 0);
         }
     }
     for (int c = 0; c < kCells; ++c) {
-        if (model_.mortgageShown(c)) paintMortgage(p, mortgageRect(c), isSideCell(c));
+        if (model_.mortgageShown(c)) {
+            drawSprite(p, mortgageRect(c), Sprite::Mortgage, isSideCell(c) ? 1 : 0);
+        }
     }
+}
+
+// The pieces on the board are painted once for each place within a pixel and kept: the
+// board repaints at every step of a walk and every frame of the dice.
+void BoardWidget::drawSprite(QPainter& p, const QRectF& rect, Sprite kind, int index) {
+    const qreal dpr = pixelRatio(p);
+    const QPointF origin(std::floor(rect.x() * dpr) / dpr, std::floor(rect.y() * dpr) / dpr);
+    const QPointF offset = rect.topLeft() - origin;
+    const auto hundredths = [dpr](qreal v) { return qRound(v * dpr * 100); };
+    const SpriteKey key{kind,
+                        index,
+                        qRound(dpr * 100),
+                        hundredths(rect.width()),
+                        hundredths(rect.height()),
+                        hundredths(offset.x()),
+                        hundredths(offset.y())};
+    auto it = sprites_.find(key);
+    if (it == sprites_.end()) {
+        const QRectF place(offset, rect.size());
+        const QSize logical(static_cast<int>(std::ceil(place.right())),
+                            static_cast<int>(std::ceil(place.bottom())));
+        QPixmap sprite = art::renderPicture(logical, dpr, [&](QPainter& q, const QRectF&) {
+            switch (kind) {
+                case Sprite::Token:
+                    paintToken(q, place, index);
+                    break;
+                case Sprite::Die:
+                    paintDie(q, place, index);
+                    break;
+                case Sprite::Hotel:
+                    paintHotel(q, place, index == 1);
+                    break;
+                case Sprite::Mortgage:
+                    paintMortgage(q, place, index == 1);
+                    break;
+            }
+        });
+        it = sprites_.emplace(key, std::move(sprite)).first;
+    }
+    p.drawPixmap(origin, it->second);
 }
 
 int BoardWidget::cellAt(QPointF point) const {

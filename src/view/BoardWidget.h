@@ -6,6 +6,8 @@
 #include <QPixmap>
 #include <QWidget>
 #include <functional>
+#include <map>
+#include <tuple>
 
 #include "view/Pictures.h"
 
@@ -31,11 +33,18 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    enum class Sprite { Token, Die, Hotel, Mortgage };
+    // Kind, index, the pixel ratio, then the size and the offset within a device pixel, in
+    // hundredths of a device pixel.
+    using SpriteKey = std::tuple<Sprite, int, int, int, int, int, int>;
+
     const QPixmap& background(qreal dpr);
+    void drawSprite(QPainter& p, const QRectF& rect, Sprite kind, int index);
 
     const MainWindow& model_;
     CellPrints prints_;
     QPixmap background_;
+    std::map<SpriteKey, QPixmap> sprites_;
 };
 
 }  // namespace gw::view
