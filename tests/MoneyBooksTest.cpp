@@ -53,10 +53,10 @@ TEST_F(Books, BalanceASaleAtATypedSumAndAMortgageClickedInsideAWalk) {
     });
     rec.duringWaitTicks = 2;  // a step of the walk
     rec.duringWait = [&] {
-        const std::size_t mark = books.mark();
-        click([&] { main().cell_Click(3); });
-        click([&] { card().Mortgage_Click(0); });
-        books.setAside(mark);
+        books.readApart([&] {
+            click([&] { main().cell_Click(3); });
+            click([&] { card().Mortgage_Click(0); });
+        });
     };
     nextThrow(4, 3);  // 34 to 1
     roll();

@@ -55,10 +55,7 @@ public:
         if (below(3) != 0) return;
         QTimer::singleShot(static_cast<int>(1 + below(40)), &program().mainView(), [this] {
             if (gui_.run.hasExited()) return;
-            // What this moves is read apart from the payments of the turn it interrupts.
-            const std::size_t mark = books_.mark();
-            act();
-            books_.setAside(mark);
+            books_.readApart([this] { act(); });
         });
     }
 

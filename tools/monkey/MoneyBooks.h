@@ -3,6 +3,7 @@
 // money changes only by what the bank paid out or took in.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,11 +18,13 @@ public:
     // A game begins on this board, its players seated and no money moved.
     void begin(Board& board);
 
-    // A click inside a wait: what it moved is read apart, so that the payments of the turn
-    // it interrupted still come in one piece. Take the mark before the click, set the rest
-    // aside after it.
-    std::size_t mark() const { return ledger_.events().size(); }
-    void setAside(std::size_t mark) { asides_.push_back(ledger_.takeEventsFrom(mark)); }
+    // Runs a click made inside a wait: what it moves is read apart, so that the payments
+    // of the turn it interrupted still come in one piece.
+    void readApart(const std::function<void()>& click) {
+        const std::size_t mark = ledger_.events().size();
+        click();
+        asides_.push_back(ledger_.takeEventsFrom(mark));
+    }
 
     // Explains everything moved since the last check; the first fault found, or nothing.
     std::string check();

@@ -57,11 +57,7 @@ private:
         run_->watchMainWindow(books_.window(), [this] { books_.begin(run_->board()); });
         delay_.inside = [this] {
             checkInsideAWait();
-            if (chance(0.05)) {
-                const std::size_t mark = books_.mark();
-                act();
-                books_.setAside(mark);
-            }
+            if (chance(0.05)) books_.readApart([this] { act(); });
         };
         run_->start();
     }
