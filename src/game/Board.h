@@ -30,10 +30,16 @@ public:
     // Builds or rebuilds the cells and the deck; every cell is as new.
     void init();
     // The cell at a position, or null outside 0 to 39; the position is not wrapped.
-    BoardCell* getCell(Integer pos) const;
+    BoardCell* getCell(Integer pos) const {
+        return onRing(pos) ? cells_[static_cast<std::size_t>(pos)].get() : nullptr;
+    }
     // The buyable cell or the street at a position, or null for any other cell.
-    PropertyCell* propertyAt(Integer pos) const;
-    Street* streetAt(Integer pos) const;
+    PropertyCell* propertyAt(Integer pos) const {
+        return onRing(pos) ? properties_[static_cast<std::size_t>(pos)] : nullptr;
+    }
+    Street* streetAt(Integer pos) const {
+        return onRing(pos) ? streets_[static_cast<std::size_t>(pos)] : nullptr;
+    }
     // Empties the player slots; init is what sets the counts back to 0.
     void deleteAllPlayer();
     // Stores the player in the next slot; false, and nothing stored, when six are seated.
@@ -76,6 +82,7 @@ public:
     void setOnTurnPlayed(std::function<bool()> hook) { onTurnPlayed_ = std::move(hook); }
 
 private:
+    static bool onRing(Integer pos) { return pos >= 0 && pos < kCellCount; }
     void playOneTurn();
     void buildCells();
 
@@ -84,6 +91,10 @@ private:
     int throwsThisTurn_ = 0;
     std::array<std::unique_ptr<player>, kMaxPlayers> players_;
     std::array<std::unique_ptr<BoardCell>, kCellCount> cells_;
+    // The buyable cells and the streets by position, null elsewhere: the computer's
+    // play asks for them dozens of times a turn.
+    std::array<PropertyCell*, kCellCount> properties_{};
+    std::array<Street*, kCellCount> streets_{};
     Windows& windows_;
     std::unique_ptr<Random> random_;
     JFLDeck jflDeck_;

@@ -99,22 +99,9 @@ void Board::buildCells() {
     for (std::size_t i = 0; i < kRing.size(); ++i) {
         auto plain = std::make_unique<cell>(static_cast<Integer>(i), kRing[i].name, *this);
         cells_[i] = makeCell(kRing[i], std::move(plain));
+        properties_[i] = cells_[i]->asProperty();
+        streets_[i] = cells_[i]->asStreet();
     }
-}
-
-BoardCell* Board::getCell(Integer pos) const {
-    if (pos < 0 || pos >= kCellCount) return nullptr;
-    return cells_[static_cast<std::size_t>(pos)].get();
-}
-
-PropertyCell* Board::propertyAt(Integer pos) const {
-    BoardCell* c = getCell(pos);
-    return c != nullptr ? c->asProperty() : nullptr;
-}
-
-Street* Board::streetAt(Integer pos) const {
-    BoardCell* c = getCell(pos);
-    return c != nullptr ? c->asStreet() : nullptr;
 }
 
 }  // namespace gw

@@ -8,6 +8,14 @@
 namespace gw {
 namespace {
 
+// A property cell's group: 1 to 8 its district, then the two other kinds.
+constexpr Integer kLastDistrictGroup = 8;
+constexpr Integer kMetroGroup = 9;
+constexpr Integer kUtilityGroup = 10;
+// The two utilities, whose cards differ in their picture.
+constexpr Integer kFirstUtilityCell = 12;
+constexpr Integer kSecondUtilityCell = 28;
+
 std::string dollars(Integer value) {
     std::string text = "$";
     text += std::to_string(value);
@@ -21,6 +29,35 @@ void CellInfoWindow::showInfoCard(Integer iId, Integer iGroup, std::span<const I
                                   const std::string& sOwner) {
     // A card called over an open one takes the main window until one of its buttons is used.
     if (isVisible()) windows_.main.setEnabled(false);
+    takeCard(iId, opt, p, sName, sOwner);
+    hideAllButtons();
+    const bool human = !p.isComputer2();
+    forget_.enable(human);
+
+    switch (cardOpt_) {
+        case kOptBuy:
+            offerPurchase(human);
+            break;
+        case kOptRent:
+            demandRent(human);
+            break;
+        case kOptTrade:
+            offerTrade();
+            break;
+        default:
+            break;
+    }
+
+    if (iGroup >= 1 && iGroup <= kLastDistrictGroup) {
+        showStreet(iGroup, iValues);
+    } else if (iGroup == kMetroGroup || iGroup == kUtilityGroup) {
+        showMetroOrUtility(iGroup, iValues);
+    }
+    setVisible(true);
+}
+
+void CellInfoWindow::takeCard(Integer iId, Integer opt, player& p, const std::string& sName,
+                              const std::string& sOwner) {
     picture_ = CardPicture::None;
     cardOpt_ = opt;
     cardPlayer_ = &p;
@@ -29,11 +66,11 @@ void CellInfoWindow::showInfoCard(Integer iId, Integer iGroup, std::span<const I
     cardId_ = iId;
     cardName_ = sName;
     cardOwner_ = sOwner;
-    labels_[1] = sName;
-    labels_[3] = sOwner;
-    labels_[2].clear();
-    for (int i = 4; i <= 10; ++i) labels_[static_cast<std::size_t>(i)].clear();
+    filled_ = true;
+    labelHasValue_.fill(false);
+}
 
+void CellInfoWindow::hideAllButtons() {
     for (Control* c : {&trade_, &buy_, &forget_, &payRent_, &buyHotel_, &sellHotel_, &mortgage_[0],
                        &mortgage_[1], &ok_[0], &ok_[1], &unmortgage_}) {
         c->hide();
@@ -41,58 +78,72 @@ void CellInfoWindow::showInfoCard(Integer iId, Integer iGroup, std::span<const I
     buyHotel_.enable(false);
     sellHotel_.enable(false);
     buy_.enable(false);
-    const bool human = !p.isComputer2();
-    forget_.enable(human);
+}
 
-    switch (cardOpt_) {
-        case 1:
-            buy_.show();
-            forget_.show();
-            if (p.canBuy(cardId_) && human) buy_.enable();
-            break;
-        case 2: {
-            payRent_.show();
-            const Integer shortfall = p.canPayRent(cardId_);
-            if (shortfall != 0) {
-                windows_.main.showInfo("You cannot pay the rent, you must get $" +
-                                       std::to_string(shortfall));
-                windows_.main.showNegBalance(true);
-                payRent_.enable(false);
-            } else if (human) {
-                payRent_.enable();
-                payRent_.caption = "Pay  " + std::to_string(p.getRent());
-                windows_.main.showInfo(p.getName() + " you owe $" + std::to_string(p.getRent()));
-            } else {
-                payRent_.enable(false);
-            }
-            break;
-        }
-        case 4:
-            trade_.show();
-            ok_[0].show();
-            break;
-        default:
-            break;
-    }
+void CellInfoWindow::offerPurchase(bool human) {
+    buy_.show();
+    forget_.show();
+    if (cardPlayer_->canBuy(cardId_) && human) buy_.enable();
+}
 
-    if (iGroup >= 1 && iGroup <= 8) {
-        picture_ = static_cast<CardPicture>(iGroup - 1);
-        static constexpr int kStreetLabels[] = {2, 4, 5, 6, 7, 8, 9, 10};
-        for (std::size_t i = 0; i < iValues.size() && i < 8; ++i) {
-            labels_[static_cast<std::size_t>(kStreetLabels[i])] = dollars(iValues[i]);
-        }
-        if (cardOpt_ == 3) showOwnCellButtons(p.canBuild(cardId_) || p.canSellHotel(cardId_));
-    } else if (iGroup == 9 || iGroup == 10) {
-        if (iGroup == 9) picture_ = CardPicture::Metro;
-        if (iGroup == 10 && cardId_ == 12) picture_ = CardPicture::Utility1;
-        if (iGroup == 10 && cardId_ == 28) picture_ = CardPicture::HQ;
-        static constexpr int kOtherLabels[] = {2, 6, 8};
-        for (std::size_t i = 0; i < iValues.size() && i < 3; ++i) {
-            labels_[static_cast<std::size_t>(kOtherLabels[i])] = dollars(iValues[i]);
-        }
-        if (cardOpt_ == 3) showOwnCellButtons(false);
+void CellInfoWindow::demandRent(bool human) {
+    player& p = *cardPlayer_;
+    payRent_.show();
+    const Integer shortfall = p.canPayRent(cardId_);
+    if (shortfall != 0) {
+        windows_.main.showInfo("You cannot pay the rent, you must get $" +
+                               std::to_string(shortfall));
+        windows_.main.showNegBalance(true);
+        payRent_.enable(false);
+    } else if (human) {
+        payRent_.enable();
+        payRent_.caption = "Pay  " + std::to_string(p.getRent());
+        windows_.main.showInfo(p.getName() + " you owe $" + std::to_string(p.getRent()));
+    } else {
+        payRent_.enable(false);
     }
-    setVisible(true);
+}
+
+void CellInfoWindow::offerTrade() {
+    trade_.show();
+    ok_[0].show();
+}
+
+void CellInfoWindow::showStreet(Integer district, std::span<const Integer> iValues) {
+    picture_ = static_cast<CardPicture>(district - 1);
+    putValues(kStreetValueLabels, iValues);
+    if (cardOpt_ == kOptOwn) {
+        showOwnCellButtons(cardPlayer_->canBuild(cardId_) || cardPlayer_->canSellHotel(cardId_));
+    }
+}
+
+void CellInfoWindow::showMetroOrUtility(Integer iGroup, std::span<const Integer> iValues) {
+    if (iGroup == kMetroGroup) picture_ = CardPicture::Metro;
+    if (iGroup == kUtilityGroup && cardId_ == kFirstUtilityCell) picture_ = CardPicture::Utility1;
+    if (iGroup == kUtilityGroup && cardId_ == kSecondUtilityCell) picture_ = CardPicture::HQ;
+    putValues(kOtherValueLabels, iValues);
+    if (cardOpt_ == kOptOwn) showOwnCellButtons(false);
+}
+
+void CellInfoWindow::putValues(std::span<const int> labelNumbers,
+                               std::span<const Integer> iValues) {
+    for (std::size_t i = 0; i < iValues.size() && i < labelNumbers.size(); ++i) {
+        const auto n = static_cast<std::size_t>(labelNumbers[i]);
+        labelValues_[n] = iValues[i];
+        labelHasValue_[n] = true;
+    }
+}
+
+std::string CellInfoWindow::label(int number) const {
+    if (!filled_) {
+        static constexpr std::array<const char*, 4> kDesignTexts{"", "Street Name", "$ Value",
+                                                                 "Status"};
+        return number >= 0 && number < 4 ? kDesignTexts[static_cast<std::size_t>(number)] : "";
+    }
+    if (number == 1) return cardName_;
+    if (number == 3) return cardOwner_;
+    const auto n = static_cast<std::size_t>(number);
+    return n < kLabelCount && labelHasValue_[n] ? dollars(labelValues_[n]) : std::string{};
 }
 
 // The narrow layout sits beside the hotel buttons; the wide one has the row to itself.
@@ -230,7 +281,7 @@ void CellInfoWindow::trade_Click() {
 
 void CellInfoWindow::forEachControl(const ControlVisitor& fn) const {
     for (int n = 1; n <= 10; ++n) {
-        fn("Label" + std::to_string(n), Control{true, true, labels_[static_cast<std::size_t>(n)]});
+        fn("Label" + std::to_string(n), Control{true, true, label(n)});
     }
     fn("buy", buy_);
     fn("forget", forget_);

@@ -53,8 +53,9 @@ public:
 
     // Which of the twelve card pictures is on show.
     CardPicture picture() const { return picture_; }
-    // Label1 to Label10 by their number; index 0 is unused.
-    const std::string& label(int number) const { return labels_[static_cast<std::size_t>(number)]; }
+    // Label1 to Label10 by their number; index 0 is unused. Written out only when read:
+    // a computer's cards come and go unseen thousands of times a second.
+    std::string label(int number) const;
 
     const Control& buy() const { return buy_; }
     const Control& forget() const { return forget_; }
@@ -67,6 +68,22 @@ public:
     const Control& sellHotel() const { return sellHotel_; }
 
 private:
+    // The label numbers that carry a value: a street's eight, the other kinds' three.
+    static constexpr std::array<int, 8> kStreetValueLabels{2, 4, 5, 6, 7, 8, 9, 10};
+    static constexpr std::array<int, 3> kOtherValueLabels{2, 6, 8};
+    static constexpr std::size_t kLabelCount = 11;
+
+    // The card's situations, each filling its own buttons.
+    void takeCard(Integer iId, Integer opt, player& p, const std::string& sName,
+                  const std::string& sOwner);
+    void hideAllButtons();
+    void offerPurchase(bool human);
+    void demandRent(bool human);
+    void offerTrade();
+    // The picture and the values of the cell's kind, then the buttons of one's own cell.
+    void showStreet(Integer district, std::span<const Integer> iValues);
+    void showMetroOrUtility(Integer iGroup, std::span<const Integer> iValues);
+    void putValues(std::span<const int> labelNumbers, std::span<const Integer> iValues);
     void showOwnCellButtons(bool narrow);
     // A button acts only while what the card was shown for still holds: its player is in
     // the game, the cell has the owner it had, and for a purchase or a rent the player's
@@ -86,7 +103,9 @@ private:
     Integer cardOpt_ = 0;
 
     CardPicture picture_ = CardPicture::None;
-    std::array<std::string, 11> labels_{"", "Street Name", "$ Value", "Status"};
+    bool filled_ = false;  // the labels read their design-time texts until a card is shown
+    std::array<Integer, kLabelCount> labelValues_{};
+    std::array<bool, kLabelCount> labelHasValue_{};
     Control buy_{true, true, "Buy It!"};
     Control forget_{true, true, "Forget It!"};
     Control payRent_{true, true, "Pay Rent"};

@@ -26,8 +26,9 @@ void LedgerWindow::attach(Board& board) {
     }
 }
 
+// The balances are followed only for the checks; the counts never read them.
 void LedgerWindow::UpdatePlayers() {
-    if (board_ == nullptr) return;
+    if (board_ == nullptr || !record_) return;
     Event e;
     e.current = board_->getCurrPlayerIndex();
     int changed = 0;
@@ -43,7 +44,6 @@ void LedgerWindow::UpdatePlayers() {
     if (changed > 1 && fault_.empty()) {
         fault_ = std::to_string(changed) + " balances changed between two updates of the panel";
     }
-    if (!record_) return;
     describeStand(e);
     events_.push_back(e);
 }

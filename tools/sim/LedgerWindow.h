@@ -49,7 +49,8 @@ struct Event {
 
 class LedgerWindow final : public MainWindowPort {
 public:
-    // Without `record` only the counts are kept, which costs next to nothing.
+    // Without `record` only the counts are kept (trades, hotels, game ends), which costs
+    // next to nothing; the balances and the fault are followed only with it.
     explicit LedgerWindow(bool record) : record_(record) {}
 
     // Starts watching a game whose players are seated and in their order of play.
