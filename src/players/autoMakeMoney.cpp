@@ -1,5 +1,6 @@
 // How a computer raises cash: utilities, then metro stations, then bare streets are
 // mortgaged, then hotels sold; if all that is not enough, bankruptcy.
+#include "cells/PropertyCell.h"
 #include "cells/Street.h"
 #include "game/Board.h"
 #include "players/player.h"
@@ -14,7 +15,10 @@ void player::autoMakeMoney(Integer amount) {
             return;
         }
         for (Integer i = 0; i < kCellCount && balance_ < amount; ++i) {
-            const CellKind kind = board_.getCell(i)->kind();
+            // Every step below needs the cell to be the player's own.
+            const PropertyCell* prop = board_.propertyAt(i);
+            if (prop == nullptr || prop->getProp().getOwners() != this) continue;
+            const CellKind kind = prop->kind();
             switch (stage) {
                 case 0:
                     if (kind == CellKind::Utility && canMort(i)) mortgageProp(i);

@@ -1,6 +1,7 @@
 // A computer player's whole turn, in phases that Board.playTurn runs in order. Nothing
 // here is random and nothing here waits: the pacing lies in the cards' computerThink.
 #include "cells/PropertyCell.h"
+#include "cells/Street.h"
 #include "game/Board.h"
 #include "players/player.h"
 
@@ -13,6 +14,21 @@ constexpr Integer kBuildAbove = 200;
 constexpr Integer kKeepAtLeast = 100;
 constexpr int kBuildPasses = 4;
 constexpr int kHotelsForAnotherPass = 3;
+
+// The owner's table as ownDist reads it: a two-street district is whole with its two.
+bool holdsAWholeDistrict(const std::array<std::array<bool, 3>, 8>& owned) {
+    for (std::size_t r = 0; r < owned.size(); ++r) {
+        const bool twoStreets = r == 0 || r == owned.size() - 1;
+        if (owned[r][0] && owned[r][1] && (twoStreets || owned[r][2])) return true;
+    }
+    return false;
+}
+
+// Whether the cell is one of the player's: the first thing every test of a holding asks.
+bool isHeldBy(const Board& board, Integer cellId, const player& p) {
+    const PropertyCell* prop = board.propertyAt(cellId);
+    return prop != nullptr && prop->getProp().getOwners() == &p;
+}
 
 }  // namespace
 
@@ -55,6 +71,9 @@ void player::autoLeaveJailAndRoll() {
 void player::autoReleaseAndAct() {
     if (balance_ >= kReleaseFrom) {
         for (Integer i = 0; i < kCellCount; ++i) {
+            if (!isHeldBy(board_, i, *this) || !board_.propertyAt(i)->getProp().isMortgaged2()) {
+                continue;
+            }
             if (canUnmort(i)) unmortgageProp(i);
         }
     }
@@ -96,10 +115,25 @@ void player::autoSettleTradeRaiseBuild() {
 // Up to four passes from the end of the board down, one hotel a street a pass; a pass
 // that builds fewer than three ends the building.
 void player::autoBuild() {
+    if (!holdsAWholeDistrict(ownedStreets_)) {
+        // No street can take a hotel. canBuild on a street of one's own would still
+        // have ownDist mark the two-street districts' missing column, so it is asked
+        // once, from the end of the board down, until the marks stand.
+        if (ownedStreets_[0][2] && ownedStreets_[7][2]) return;
+        for (Integer i = kCellCount - 1; i >= 0; --i) {
+            if (board_.streetAt(i) != nullptr && isHeldBy(board_, i, *this)) {
+                canBuild(i);
+                return;
+            }
+        }
+        return;
+    }
     for (int pass = 0; pass < kBuildPasses; ++pass) {
         int built = 0;
         for (Integer i = kCellCount - 1; i >= 0; --i) {
-            if (!canBuild(i)) continue;
+            if (board_.streetAt(i) == nullptr || !isHeldBy(board_, i, *this) || !canBuild(i)) {
+                continue;
+            }
             playSound(SoundEffect::Building);
             buildHotel(i);
             ++built;
