@@ -1,5 +1,7 @@
 // How a computer raises cash: utilities, then metro stations, then bare streets are
 // mortgaged, then hotels sold; if all that is not enough, bankruptcy.
+#include <array>
+
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
 #include "game/Board.h"
@@ -9,16 +11,23 @@ namespace gw {
 
 void player::autoMakeMoney(Integer amount) {
     constexpr int kBankruptcyStage = 4;
+    if (balance_ >= amount) return;
+    // Every step below needs a cell of the player's own, and none changes hands here:
+    // they are looked up once, in the order of the board.
+    std::array<Integer, kCellCount> own{};
+    std::size_t ownCount = 0;
+    for (Integer i = 0; i < kCellCount; ++i) {
+        const PropertyCell* prop = board_.propertyAt(i);
+        if (prop != nullptr && prop->getProp().getOwners() == this) own[ownCount++] = i;
+    }
     for (int stage = 0; balance_ < amount; ++stage) {
         if (stage == kBankruptcyStage) {
             declareBankruptcy();
             return;
         }
-        for (Integer i = 0; i < kCellCount && balance_ < amount; ++i) {
-            // Every step below needs the cell to be the player's own.
-            const PropertyCell* prop = board_.propertyAt(i);
-            if (prop == nullptr || prop->getProp().getOwners() != this) continue;
-            const CellKind kind = prop->kind();
+        for (std::size_t k = 0; k < ownCount && balance_ < amount; ++k) {
+            const Integer i = own[k];
+            const CellKind kind = board_.getCell(i)->kind();
             switch (stage) {
                 case 0:
                     if (kind == CellKind::Utility && canMort(i)) mortgageProp(i);

@@ -1,5 +1,7 @@
 // A computer player's whole turn, in phases that Board.playTurn runs in order. Nothing
 // here is random and nothing here waits: the pacing lies in the cards' computerThink.
+#include <array>
+
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
 #include "game/Board.h"
@@ -128,12 +130,18 @@ void player::autoBuild() {
         }
         return;
     }
+    // Only one's own streets can take a hotel, and building changes no owner: they are
+    // looked up once, from the end of the board down.
+    std::array<Integer, kCellCount> own{};
+    std::size_t ownCount = 0;
+    for (Integer i = kCellCount - 1; i >= 0; --i) {
+        if (board_.streetAt(i) != nullptr && isHeldBy(board_, i, *this)) own[ownCount++] = i;
+    }
     for (int pass = 0; pass < kBuildPasses; ++pass) {
         int built = 0;
-        for (Integer i = kCellCount - 1; i >= 0; --i) {
-            if (board_.streetAt(i) == nullptr || !isHeldBy(board_, i, *this) || !canBuild(i)) {
-                continue;
-            }
+        for (std::size_t k = 0; k < ownCount; ++k) {
+            const Integer i = own[k];
+            if (!canBuild(i)) continue;
             playSound(SoundEffect::Building);
             buildHotel(i);
             ++built;
