@@ -1,5 +1,6 @@
 // The ring of cells and what a landing on each kind does.
 #include "GameFixture.h"
+#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {

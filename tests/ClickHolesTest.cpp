@@ -2,6 +2,9 @@
 // Go, a human in debt with nothing to sell, a fourth throw, cards whose facts have gone
 // stale, and a typed sum beyond what a balance can hold.
 #include "RunFixture.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/TradingCardWindow.h"
+#include "windows/Windows.h"
 
 namespace gw::test {
 namespace {

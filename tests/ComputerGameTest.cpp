@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "game/Board.h"
+#include "windows/Windows.h"
 
 namespace gw::test {
 namespace {

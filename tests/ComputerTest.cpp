@@ -1,6 +1,8 @@
 // The computer's turn: leaving jail, buying, paying, releasing, raising money, building
 // and trading, by its fixed thresholds.
 #include "GameFixture.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/TradingCardWindow.h"
 
 namespace gw::test {
 namespace {

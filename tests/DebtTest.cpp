@@ -1,6 +1,7 @@
 // Rent, taxes and the tax card, worth and bankruptcy: what is due, who can pay, and where
 // a bankrupt player's cells go.
 #include "GameFixture.h"
+#include "windows/taxCellWindow.h"
 
 namespace gw::test {
 namespace {

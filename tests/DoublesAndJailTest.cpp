@@ -1,6 +1,7 @@
 // The chain of doubles: a throw without doubles ends it, jail voids the throw it promised,
 // and a failed throw in jail shows its message and buttons in their order.
 #include "GameFixture.h"
+#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {

@@ -1,6 +1,7 @@
 // A balance that is exactly what is asked: a hotel bought with its cost in hand, a rent
 // paid with its sum in hand, both leaving 0 and no debt shown.
 #include "GameFixture.h"
+#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {

@@ -15,6 +15,7 @@
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
 #include "game/Board.h"
+#include "windows/Windows.h"
 
 namespace gw::test {
 

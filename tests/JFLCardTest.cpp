@@ -3,6 +3,9 @@
 #include <algorithm>
 
 #include "GameFixture.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/JFLCardWindow.h"
+#include "windows/taxCellWindow.h"
 
 namespace gw::test {
 namespace {

@@ -3,6 +3,7 @@
 #include "Checker.h"
 #include "GameFixture.h"
 #include "Tariff.h"
+#include "windows/Windows.h"
 
 namespace gw::test {
 namespace {

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "GameFixture.h"
+#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {

@@ -2,6 +2,9 @@
 // a mortgage clicked while the token walks, and money that no rule moved.
 #include "MoneyBooks.h"
 #include "RunFixture.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/TradingCardWindow.h"
+#include "windows/Windows.h"
 
 namespace gw::test {
 namespace {

@@ -1,6 +1,8 @@
 // The property card: which buttons each kind of card offers to whom, the values it
 // prints, and what each button does to the game and to the main window.
 #include "GameFixture.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/TradingCardWindow.h"
 
 namespace gw::test {
 namespace {

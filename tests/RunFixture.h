@@ -13,7 +13,9 @@
 #include <vector>
 
 #include "GameFixture.h"
+#include "windows/CellInfoWindow.h"
 #include "windows/GameRun.h"
+#include "windows/Windows.h"
 
 namespace gw::test {
 

@@ -15,6 +15,7 @@
 #include "Recorder.h"
 #include "Signature.h"
 #include "cells/Street.h"
+#include "windows/Windows.h"
 
 namespace gw::test {
 namespace {

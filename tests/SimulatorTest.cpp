@@ -8,6 +8,7 @@
 
 #include "Checker.h"
 #include "Simulation.h"
+#include "windows/Windows.h"
 
 namespace gw::test {
 namespace {

@@ -1,6 +1,7 @@
 // The small squares of the cells in the main window model: a token leaves the squares of
 // the cell it walks away from and fills those of the cell it lands on.
 #include "GameFixture.h"
+#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {

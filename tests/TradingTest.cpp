@@ -4,6 +4,8 @@
 #include <tuple>
 
 #include "GameFixture.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/TradingCardWindow.h"
 
 namespace gw::test {
 namespace {

@@ -2,6 +2,10 @@
 // property card, a trade between two humans that asks for more, both ways out of jail, and
 // the buttons of the main window in every situation of a turn.
 #include "RunFixture.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/TradingCardWindow.h"
+#include "windows/Windows.h"
+#include "windows/taxCellWindow.h"
 
 namespace gw::test {
 namespace {

@@ -1,6 +1,7 @@
 // A turn from the throw to the hand-over: moves, Go money, doubles, jail and the two
 // refusals of End Turn, checked against the recorded order of window calls and sounds.
 #include "GameFixture.h"
+#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {

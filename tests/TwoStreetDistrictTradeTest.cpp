@@ -1,6 +1,7 @@
 // The computer's search for the street it lacks in the two-street districts 1 and 8,
 // whose third column of the owner's table stands for no street.
 #include "GameFixture.h"
+#include "windows/TradingCardWindow.h"
 
 namespace gw::test {
 namespace {

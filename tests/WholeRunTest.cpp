@@ -2,6 +2,11 @@
 // playing to the end, the end window, a new game, and the end of the program from inside
 // a wait.
 #include "RunFixture.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/JFLCardWindow.h"
+#include "windows/TradingCardWindow.h"
+#include "windows/Windows.h"
+#include "windows/taxCellWindow.h"
 
 namespace gw::test {
 namespace {

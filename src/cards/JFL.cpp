@@ -3,6 +3,7 @@
 #include "cards/JFLDeck.h"
 #include "game/Board.h"
 #include "windows/JFLCardWindow.h"
+#include "windows/Windows.h"
 
 namespace gw {
 

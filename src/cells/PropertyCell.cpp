@@ -3,6 +3,7 @@
 #include "game/Board.h"
 #include "players/player.h"
 #include "windows/CellInfoWindow.h"
+#include "windows/Windows.h"
 
 namespace gw {
 

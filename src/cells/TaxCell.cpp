@@ -1,6 +1,7 @@
 #include "cells/TaxCell.h"
 
 #include "game/Board.h"
+#include "windows/Windows.h"
 #include "windows/taxCellWindow.h"
 
 namespace gw {

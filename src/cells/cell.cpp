@@ -2,6 +2,7 @@
 
 #include "game/Board.h"
 #include "players/player.h"
+#include "windows/Windows.h"
 
 namespace gw {
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "game/Scatter.h"
+#include "windows/Windows.h"
 
 namespace gw {
 
@@ -36,11 +37,6 @@ player* Board::addPlayer(std::string name, bool isComputer, Integer token) {
 
 void Board::addPlayers(const GameSetup& setup) {
     for (const GameSetup::Seat& seat : setup.seats) addPlayer(seat.name, seat.computer, seat.token);
-}
-
-player* Board::getPlayer(Integer id) const {
-    if (id < 0 || id >= kMaxPlayers) return nullptr;
-    return players_[static_cast<std::size_t>(id)].get();
 }
 
 Integer Board::countSolvent() const {

@@ -15,9 +15,10 @@
 #include "game/Limits.h"
 #include "game/Random.h"
 #include "players/player.h"
-#include "windows/Windows.h"
 
 namespace gw {
+
+class Windows;
 
 class Board {
 public:
@@ -55,7 +56,9 @@ public:
     player& getCurrPlayer() const { return *players_[static_cast<std::size_t>(currPlayer_)]; }
     Integer getCurrPlayerIndex() const { return currPlayer_; }
     Integer getNumPlayer() const { return numPlayer_; }
-    player* getPlayer(Integer id) const;
+    player* getPlayer(Integer id) const {
+        return id >= 0 && id < kMaxPlayers ? players_[static_cast<std::size_t>(id)].get() : nullptr;
+    }
     JFLDeck& getJFLDeck() { return jflDeck_; }
 
     // The turn cycle

@@ -6,6 +6,9 @@
 #include "cells/Street.h"
 #include "game/Board.h"
 #include "players/player.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/Windows.h"
+#include "windows/taxCellWindow.h"
 
 namespace gw {
 namespace {

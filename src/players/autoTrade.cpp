@@ -6,6 +6,8 @@
 #include "cells/Street.h"
 #include "game/Board.h"
 #include "players/player.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/TradingCardWindow.h"
 #include "windows/Windows.h"
 
 namespace gw {

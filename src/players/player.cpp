@@ -4,6 +4,7 @@
 #include "cards/JFLDeck.h"
 #include "cells/BoardCell.h"
 #include "game/Board.h"
+#include "windows/Windows.h"
 
 namespace gw {
 

@@ -5,6 +5,7 @@
 #include "cells/TaxCell.h"
 #include "game/Board.h"
 #include "players/player.h"
+#include "windows/Windows.h"
 
 namespace gw {
 

@@ -4,6 +4,7 @@
 #include "cells/Street.h"
 #include "game/Board.h"
 #include "players/player.h"
+#include "windows/Windows.h"
 
 namespace gw {
 namespace {

@@ -2,6 +2,8 @@
 #include "cells/PropertyCell.h"
 #include "game/Board.h"
 #include "players/player.h"
+#include "windows/TradingCardWindow.h"
+#include "windows/Windows.h"
 
 namespace gw {
 

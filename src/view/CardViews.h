@@ -3,6 +3,10 @@
 #pragma once
 
 #include "view/WindowView.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/JFLCardWindow.h"
+#include "windows/TradingCardWindow.h"
+#include "windows/taxCellWindow.h"
 
 namespace gw {
 class CellInfoWindow;

@@ -3,6 +3,7 @@
 #include "cells/PropertyCell.h"
 #include "game/Board.h"
 #include "players/player.h"
+#include "windows/TradingCardWindow.h"
 #include "windows/Windows.h"
 
 namespace gw {

@@ -1,4 +1,5 @@
 #include "windows/GameRun.h"
+#include "windows/Windows.h"
 
 namespace gw {
 

@@ -1,52 +1,46 @@
 // The windows that the rules talk to, gathered for one game: the main window (behind
 // its port), the sound, the delays, and the four card windows, which are plain models.
+// The cards are only declared here: a file that opens one includes that card's header,
+// so that an edit to one card rebuilds only the files that use it.
 #pragma once
 
-#include "windows/CellInfoWindow.h"
+#include <functional>
+#include <memory>
+
 #include "windows/Delay.h"
-#include "windows/JFLCardWindow.h"
 #include "windows/MainWindowPort.h"
 #include "windows/Sound.h"
-#include "windows/TradingCardWindow.h"
-#include "windows/taxCellWindow.h"
 
 namespace gw {
 
+class CellInfoWindow;
+class TradingCardWindow;
+class JFLCardWindow;
+class taxCellWindow;
+
 class Windows {
+    struct Cards;
+    // First, so that the cards exist before the references to them are bound.
+    std::unique_ptr<Cards> cards_;
+
 public:
-    Windows(MainWindowPort& mainWindow, Sound& soundPlayer, Delay& delayTime)
-        : main(mainWindow),
-          sound(soundPlayer),
-          delay(delayTime),
-          cellInfo(*this),
-          trading(*this),
-          jflCard(*this),
-          taxCard(*this) {}
+    Windows(MainWindowPort& mainWindow, Sound& soundPlayer, Delay& delayTime);
+    ~Windows();
     Windows(const Windows&) = delete;
     Windows& operator=(const Windows&) = delete;
 
     // A new game: the cards go and forget the players of the last one.
-    void forgetPlayers() {
-        cellInfo.forgetPlayers();
-        trading.forgetPlayers();
-        jflCard.close();
-        taxCard.forgetPlayers();
-    }
+    void forgetPlayers();
     // One hook for the four cards; see GameRun::setOnChanged.
-    void setOnChanged(const std::function<void()>& hook) {
-        cellInfo.setOnChanged(hook);
-        trading.setOnChanged(hook);
-        jflCard.setOnChanged(hook);
-        taxCard.setOnChanged(hook);
-    }
+    void setOnChanged(const std::function<void()>& hook);
 
     MainWindowPort& main;
     Sound& sound;
     Delay& delay;
-    CellInfoWindow cellInfo;
-    TradingCardWindow trading;
-    JFLCardWindow jflCard;
-    taxCellWindow taxCard;
+    CellInfoWindow& cellInfo;
+    TradingCardWindow& trading;
+    JFLCardWindow& jflCard;
+    taxCellWindow& taxCard;
 };
 
 }  // namespace gw

@@ -12,6 +12,7 @@
 #include "app/Options.h"
 #include "app/QtSound.h"
 #include "game/Board.h"
+#include "windows/TradingCardWindow.h"
 
 namespace gw::test {
 namespace {

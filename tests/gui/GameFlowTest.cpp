@@ -12,6 +12,9 @@
 #include "cells/PropertyCell.h"
 #include "game/Board.h"
 #include "players/player.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/JFLCardWindow.h"
+#include "windows/taxCellWindow.h"
 
 namespace gw::test {
 namespace {

@@ -18,6 +18,8 @@
 #include "MoneyBooks.h"
 #include "view/BoardWidget.h"
 #include "view/PictureWidget.h"
+#include "windows/JFLCardWindow.h"
+#include "windows/taxCellWindow.h"
 
 namespace gw::test {
 namespace {

@@ -7,6 +7,10 @@
 #include <QLineEdit>
 
 #include "GuiRun.h"
+#include "windows/CellInfoWindow.h"
+#include "windows/JFLCardWindow.h"
+#include "windows/TradingCardWindow.h"
+#include "windows/taxCellWindow.h"
 
 namespace gw::test {
 namespace {

@@ -1,7 +1,12 @@
 #include "Invariants.h"
 
 #include "cells/Street.h"
+#include "windows/CellInfoWindow.h"
 #include "windows/GameRun.h"
+#include "windows/JFLCardWindow.h"
+#include "windows/TradingCardWindow.h"
+#include "windows/Windows.h"
+#include "windows/taxCellWindow.h"
 
 namespace gw::monkey {
 namespace {

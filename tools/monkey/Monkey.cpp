@@ -9,7 +9,12 @@
 #include <string_view>
 #include <vector>
 
+#include "windows/CellInfoWindow.h"
 #include "windows/GameRun.h"
+#include "windows/JFLCardWindow.h"
+#include "windows/TradingCardWindow.h"
+#include "windows/Windows.h"
+#include "windows/taxCellWindow.h"
 
 namespace gw::monkey {
 namespace {
