@@ -64,17 +64,22 @@ set(GILDENWAY_METAINFO_FILE ${CMAKE_SOURCE_DIR}/data/${GILDENWAY_APP_ID}.metainf
 install(FILES ${GILDENWAY_DESKTOP_FILE} DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${GILDENWAY_METAINFO_FILE} DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 
-# The screenshot the metadata shows, taken from the program's own window, offscreen.
+# The screenshots the metadata shows, taken from the program's own windows, offscreen: the
+# set-up window, and the board of a seeded game of four computers a few seconds in.
 set(GILDENWAY_SCREENSHOT ${CMAKE_BINARY_DIR}/screenshots/set-up.png)
+set(GILDENWAY_BOARD_SCREENSHOT ${CMAKE_BINARY_DIR}/screenshots/board.png)
 add_custom_command(
-  OUTPUT ${GILDENWAY_SCREENSHOT}
+  OUTPUT ${GILDENWAY_SCREENSHOT} ${GILDENWAY_BOARD_SCREENSHOT}
   COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/screenshots
   COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen
           $<TARGET_FILE:gildenway> --screenshot ${GILDENWAY_SCREENSHOT}
+  COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen
+          $<TARGET_FILE:gildenway> --computers 4 --seed 11 --tick-ms 10 --close-after-ms 4000
+          --screenshot ${GILDENWAY_BOARD_SCREENSHOT}
   DEPENDS gildenway
-  COMMENT "Taking the screenshot of the set-up window"
+  COMMENT "Taking the screenshots of the set-up window and the board"
   VERBATIM)
-add_custom_target(gildenway_screenshots ALL DEPENDS ${GILDENWAY_SCREENSHOT})
+add_custom_target(gildenway_screenshots ALL DEPENDS ${GILDENWAY_SCREENSHOT} ${GILDENWAY_BOARD_SCREENSHOT})
 install(DIRECTORY ${GILDENWAY_ICON_THEME} DESTINATION ${CMAKE_INSTALL_DATADIR}/icons)
 
 if(BUILD_TESTING)

@@ -51,10 +51,10 @@ const std::vector<Row>& rows() {
              return QString();
          }},
         {QStringLiteral("screenshot"), QStringLiteral("FILE"),
-         QStringLiteral("Save a picture of the first window to FILE once it is painted, and quit."),
+         QStringLiteral("Save a picture to FILE: of the first window once it is painted, and "
+                        "quit; with --close-after-ms, of the main window as the program leaves."),
          [](Options& o, const QString& file) {
              o.screenshot = file;
-             o.quitWhenShown = true;
              return QString();
          }},
         {QStringLiteral("computers"), QStringLiteral("N"),

@@ -13,7 +13,8 @@ namespace gw::app {
 struct Options {
     // Print the set-up window's title and quit as soon as it is on the screen.
     bool quitWhenShown = false;
-    // Save a picture of the set-up window to this file once it is painted, then quit.
+    // Save a picture to this file: of the set-up window once it is painted, then quit; or,
+    // with closeAfterMs, of the main window as the program leaves.
     QString screenshot;
     // Seat this many computer players, start, and quit when the game is over.
     int computers = 0;

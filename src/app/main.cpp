@@ -100,8 +100,11 @@ int main(int argc, char** argv) {
     messages.setParent([&program] { return &program.startView(); });
     program.refreshAll();
 
-    QuitWhenShown quitWhenShown(sinceStart, options.screenshot);
-    if (options.quitWhenShown) program.startView().installEventFilter(&quitWhenShown);
+    const bool leaveLater = options.closeAfterMs > 0;
+    QuitWhenShown quitWhenShown(sinceStart, leaveLater ? QString() : options.screenshot);
+    if (options.quitWhenShown || (!options.screenshot.isEmpty() && !leaveLater)) {
+        program.startView().installEventFilter(&quitWhenShown);
+    }
     if (options.computers > 0) {
         program.setOnRefreshed([&] {
             if (run.gameEnd().isVisible()) {
@@ -113,6 +116,11 @@ int main(int argc, char** argv) {
     }
     if (options.closeAfterMs > 0) {
         QTimer::singleShot(options.closeAfterMs, [&] {
+            if (!options.screenshot.isEmpty() &&
+                !program.mainView().grab().save(options.screenshot)) {
+                std::fprintf(stderr, "gildenway: cannot write %s\n",
+                             qPrintable(options.screenshot));
+            }
             if (options.leaveBy == gw::app::Options::Leave::FileExit) {
                 program.mainView().action("Exit").trigger();
             } else {
