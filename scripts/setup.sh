@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
 
 mode=${1:-play}
 packages=(cmake g++ make libgtest-dev libbenchmark-dev qt6-base-dev qt6-multimedia-dev
-    fonts-dejavu-core)
+    fonts-dejavu-core qt6-svg-dev appstream desktop-file-utils dpkg-dev file lintian)
 
 missing=()
 for package in "${packages[@]}"; do

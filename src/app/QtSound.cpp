@@ -34,9 +34,11 @@ qreal linearVolume(int hundredthsOfDb) {
 }
 
 QStringList QtSound::defaultFolders() {
+    // Relative to the program, never a path fixed at build time, so an install under any
+    // prefix, moved afterwards or unpacked from a package, finds its own sounds.
     const QString here = QCoreApplication::applicationDirPath();
     return {here, here + QStringLiteral("/sounds"),
-            QStringLiteral(GILDENWAY_DATA_DIR) + QStringLiteral("/sounds")};
+            QDir::cleanPath(here + QStringLiteral("/" GILDENWAY_SOUNDS_FROM_PROGRAM))};
 }
 
 QtSound::QtSound(const QStringList& folders, bool deviceCheck) {

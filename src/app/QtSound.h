@@ -31,7 +31,8 @@ public:
     QUrl file(SoundEffect effect) const { return files_[static_cast<std::size_t>(effect)]; }
     qreal volume(MediaPlayer player) const { return volumes_[index(player)]; }
 
-    // The folders of a run: beside the program, its "sounds" folder, the installed data.
+    // The folders of a run: beside the program, its "sounds" folder (the build tree), and
+    // the installed data, found from the program's folder (<bin>/../share/gildenway/sounds).
     static QStringList defaultFolders();
 
 private:

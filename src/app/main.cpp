@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 
 #include "app/Autoplay.h"
@@ -23,10 +24,11 @@ std::unique_ptr<gw::Random> randomSource(const gw::app::Options& options) {
 }
 
 // Prints the window's title and the time since main() began once it has been painted,
-// then ends the event loop.
+// saves its picture if asked, then ends the event loop.
 class QuitWhenShown : public QObject {
 public:
-    explicit QuitWhenShown(const QElapsedTimer& sinceStart) : sinceStart_(sinceStart) {}
+    QuitWhenShown(const QElapsedTimer& sinceStart, QString screenshot)
+        : sinceStart_(sinceStart), screenshot_(std::move(screenshot)) {}
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::Paint && !done_) {
             done_ = true;
@@ -34,13 +36,19 @@ public:
             std::printf("shown: %s\nfirst paint after %lld ms\n", qPrintable(window->windowTitle()),
                         static_cast<long long>(sinceStart_.elapsed()));
             std::fflush(stdout);
-            QTimer::singleShot(0, [] { QCoreApplication::exit(0); });
+            QTimer::singleShot(0, [this, window] {
+                const bool saved = screenshot_.isEmpty() || window->grab().save(screenshot_);
+                if (!saved)
+                    std::fprintf(stderr, "gildenway: cannot write %s\n", qPrintable(screenshot_));
+                QCoreApplication::exit(saved ? 0 : 1);
+            });
         }
         return false;
     }
 
 private:
     const QElapsedTimer& sinceStart_;
+    QString screenshot_;
     bool done_ = false;
 };
 
@@ -49,6 +57,23 @@ private:
 int main(int argc, char** argv) {
     QElapsedTimer sinceStart;
     sinceStart.start();
+    // --help, --version and a bad option answer before the application object exists, so
+    // they work without a display. Words of one dash may be Qt's own (-platform ...): they
+    // are read once Qt has taken its share.
+    QStringList words;
+    for (int i = 0; i < argc; ++i) words << QString::fromLocal8Bit(argv[i]);
+    const gw::app::Options asked = gw::app::parseOptions(words);
+    if (asked.help || asked.version) {
+        std::fputs(qPrintable(asked.answer), stdout);
+        return 0;
+    }
+    const bool qtMayTakeSome = std::any_of(words.begin() + 1, words.end(), [](const QString& w) {
+        return w.startsWith(QLatin1Char('-')) && !w.startsWith(QLatin1String("--"));
+    });
+    if (!asked.error.isEmpty() && !qtMayTakeSome) {
+        std::fprintf(stderr, "gildenway: %s\n", qPrintable(asked.error));
+        return 2;
+    }
     gw::app::installMessageFilter();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Gildenway"));
@@ -75,8 +100,11 @@ int main(int argc, char** argv) {
     messages.setParent([&program] { return &program.startView(); });
     program.refreshAll();
 
-    QuitWhenShown quitWhenShown(sinceStart);
-    if (options.quitWhenShown) program.startView().installEventFilter(&quitWhenShown);
+    const bool leaveLater = options.closeAfterMs > 0;
+    QuitWhenShown quitWhenShown(sinceStart, leaveLater ? QString() : options.screenshot);
+    if (options.quitWhenShown || (!options.screenshot.isEmpty() && !leaveLater)) {
+        program.startView().installEventFilter(&quitWhenShown);
+    }
     if (options.computers > 0) {
         program.setOnRefreshed([&] {
             if (run.gameEnd().isVisible()) {
@@ -88,6 +116,11 @@ int main(int argc, char** argv) {
     }
     if (options.closeAfterMs > 0) {
         QTimer::singleShot(options.closeAfterMs, [&] {
+            if (!options.screenshot.isEmpty() &&
+                !program.mainView().grab().save(options.screenshot)) {
+                std::fprintf(stderr, "gildenway: cannot write %s\n",
+                             qPrintable(options.screenshot));
+            }
             if (options.leaveBy == gw::app::Options::Leave::FileExit) {
                 program.mainView().action("Exit").trigger();
             } else {

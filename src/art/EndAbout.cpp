@@ -225,14 +225,20 @@ void paintPortrait(QPainter& p, const QRectF& rect, int index) {
 
 void paintAppIcon(QPainter& p, const QRectF& rect) {
     DesignSpace ds(p, rect, QSizeF(100, 100));
-    const bool tiny = ds.scale() * 100 < 24;
+    // Painted for its size: under 48 px the skyline is a smudge and is left out, under 32 px
+    // the frame too, and under 24 px the coin fills the tile with a bolder G.
+    const qreal pixels = ds.scale() * 100;
+    const bool tiny = pixels < 24;
+    const bool withSkyline = pixels >= 48;
     p.setPen(pen(colour::tealDeep, ds.px(1)));
     p.setBrush(shadedBrush(colour::teal, QRectF(0, 0, 100, 100), 130, 110));
     p.drawRoundedRect(QRectF(3, 3, 94, 94), 20, 20);
-    if (!tiny) {
+    if (pixels >= 32) {
         p.setPen(pen(colour::gold, ds.px(1)));
         p.setBrush(Qt::NoBrush);
         p.drawRoundedRect(QRectF(9, 9, 82, 82), 15, 15);
+    }
+    if (withSkyline) {
         paintSkyline(p, QRectF(12, 62, 76, 26), colour::withAlpha(colour::tealDeep, 200));
     }
     // A gold coin with a G cut out of it.
@@ -241,8 +247,8 @@ void paintAppIcon(QPainter& p, const QRectF& rect) {
     g.setColorAt(1, colour::gold);
     p.setPen(pen(colour::goldDeep, ds.px(tiny ? 0.8 : 1.2)));
     p.setBrush(g);
-    const QPointF c(50, tiny ? 50 : 44);
-    const qreal r = tiny ? 38 : 30;
+    const QPointF c(50, withSkyline ? 44 : 50);
+    const qreal r = tiny ? 38 : withSkyline ? 30 : 34;
     p.drawEllipse(c, r, r);
     // The G: an open ring with its bar turned in at the middle right.
     const qreal lr = r * 0.5;
@@ -251,7 +257,7 @@ void paintAppIcon(QPainter& p, const QRectF& rect) {
     glyph.arcTo(QRectF(c.x() - lr, c.y() - lr, 2 * lr, 2 * lr), 40, 320);
     glyph.lineTo(c.x() + lr * 0.1, c.y());
     QPainterPathStroker stroker;
-    stroker.setWidth(r * 0.22);
+    stroker.setWidth(r * (tiny ? 0.28 : 0.22));
     stroker.setCapStyle(Qt::FlatCap);
     stroker.setJoinStyle(Qt::MiterJoin);
     const QPainterPath letter = stroker.createStroke(glyph);

@@ -138,6 +138,40 @@ TEST(OptionsTest, ReadsTheBenchOptionsAndRefusesWrongOnes) {
     EXPECT_FALSE(app::parseOptions({"gildenway", "--fast"}).error.isEmpty());
 }
 
+TEST(OptionsTest, EachBadLineGetsOneLineNamingWhatIsWrong) {
+    const std::vector<std::pair<QStringList, QString>> cases = {
+        {{"--computers", "7"}, "--computers takes a whole number from 2 to 6, not '7'"},
+        {{"--tick-ms", "-1"}, "--tick-ms takes a whole number from 0 to 1000, not '-1'"},
+        {{"--seed", "12x"}, "--seed takes a whole number from 0 to 9223372036854775807, not '12x'"},
+        {{"--seed", "1", "--seed", "2"}, "--seed is given twice"},
+        {{"--fast"}, "Unknown option 'fast'."},
+        {{"--computers"}, "Missing value after '--computers'."},
+        {{"stray"}, "'stray' is not an option"},
+    };
+    for (const auto& [words, error] : cases) {
+        const app::Options options = app::parseOptions(QStringList{"gildenway"} + words);
+        EXPECT_EQ(options.error, error) << qPrintable(words.join(' '));
+        EXPECT_FALSE(options.error.contains('\n'));
+    }
+}
+
+TEST(OptionsTest, HelpListsEveryOptionAndVersionNamesTheRelease) {
+    const app::Options help = app::parseOptions({"gildenway", "--computers", "9", "--help"});
+    EXPECT_TRUE(help.help);
+    EXPECT_TRUE(help.error.isEmpty());
+    EXPECT_TRUE(help.answer.startsWith("Usage: gildenway [options]\n")) << qPrintable(help.answer);
+    for (const char* option :
+         {"--help", "--version", "--quit-when-shown", "--screenshot <FILE>", "--computers <N>",
+          "--tick-ms <MS>", "--seed <S>", "--close-after-ms <MS>", "--leave-by <close|exit>"}) {
+        EXPECT_TRUE(help.answer.contains(option)) << option;
+    }
+    const app::Options version = app::parseOptions({"gildenway", "--version"});
+    EXPECT_TRUE(version.version);
+    EXPECT_EQ(version.answer, "gildenway 1.0\n");
+    const app::Options screenshot = app::parseOptions({"gildenway", "--screenshot", "/tmp/a.png"});
+    EXPECT_EQ(screenshot.screenshot, "/tmp/a.png");
+}
+
 // The amount box of the trading card keeps digits only, five at most, and typing after
 // the box gets the focus replaces the old sum.
 TEST(TradingCardEntry, KeepsDigitsAndReplacesTheOldSumOnFocus) {

@@ -25,6 +25,25 @@ double mean(const Samples& samples) {
     return samples.empty() ? 0.0 : sum / samples.size();
 }
 
+double soundingRms(const Samples& samples, int rate) {
+    const std::size_t window = static_cast<std::size_t>(rate) / 100;
+    std::vector<double> energies;
+    for (std::size_t at = 0; at + window <= samples.size(); at += window) {
+        const double level = rms(Samples(samples.begin() + at, samples.begin() + at + window));
+        energies.push_back(level * level);
+    }
+    if (energies.empty()) return 0.0;
+    const double floor = *std::max_element(energies.begin(), energies.end()) / 1000.0;  // -30 dB
+    double sum = 0.0;
+    int counted = 0;
+    for (const double energy : energies) {
+        if (energy < floor) continue;
+        sum += energy;
+        ++counted;
+    }
+    return std::sqrt(sum / counted);
+}
+
 std::size_t trailingSilence(const Samples& samples) {
     const auto loud = std::find_if(samples.rbegin(), samples.rend(),
                                    [](std::int16_t s) { return std::abs(int{s}) > kSilenceLevel; });

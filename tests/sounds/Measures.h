@@ -16,6 +16,10 @@ double peak(const Samples& samples);
 double rms(const Samples& samples);
 double mean(const Samples& samples);
 
+// RMS of the sounding part, as the ear weighs a short effect: the 10 ms windows within
+// 30 dB of the loudest window, so gaps, fades and the trailing silence do not count.
+double soundingRms(const Samples& samples, int rate);
+
 // Samples from the end back to the last one louder than silence.
 std::size_t trailingSilence(const Samples& samples);
 

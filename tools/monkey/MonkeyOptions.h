@@ -15,7 +15,12 @@ struct MonkeyOptions {
     std::string error;  // one line naming the option and what it accepts; empty if none
 };
 
-inline constexpr std::string_view kMonkeyUsage = "usage: gildenway-monkey [--seed S] [--steps N]";
+inline constexpr long kMaxSteps = 1000000000;
+inline constexpr std::string_view kMonkeyUsage =
+    "usage: gildenway-monkey [--seed S] [--steps N]\n"
+    "  --seed S   seed of the run, 0 to 2^64-1 (default 1)\n"
+    "  --steps N  random clicks and keys, 1 to 1000000000 (default 100000)\n"
+    "  --help     show this text";
 
 MonkeyOptions parseMonkeyOptions(std::span<const std::string_view> args);
 

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "Filter.h"
+#include "Loudness.h"
 
 namespace gw::soundgen {
 
@@ -34,17 +35,27 @@ void fade(Signal& signal, double inSeconds, double outSeconds) {
     }
 }
 
+// Gain to the loudness asked for, then the limiter; the limiter takes a little of the
+// loudness of a sound with sharp peaks back, so a few rounds settle both.
+void level(Signal& signal, double loudnessDb) {
+    const double ceiling = levelOf(kCeilingDb);
+    for (int round = 0; round < 4; ++round) {
+        const double rms = soundingRms(signal);
+        if (rms <= 0.0) return;
+        const auto gain = static_cast<float>(levelOf(loudnessDb) / rms);
+        for (float& sample : signal) sample *= gain;
+        limit(signal, ceiling);
+    }
+}
+
 }  // namespace
 
-Signal master(Signal raw, double fadeOutSeconds, double maxSeconds) {
+Signal master(Signal raw, double fadeOutSeconds, double maxSeconds, double accentDb) {
     Biquad::highpass(20.0).apply(raw);  // takes out DC and inaudible rumble
     cutQuietTail(raw);
     if (raw.size() > samplesIn(maxSeconds)) raw.resize(samplesIn(maxSeconds));
     fade(raw, kFadeInSeconds, fadeOutSeconds);
-    if (const double peak = peakOf(raw); peak > 0.0) {
-        const auto gain = static_cast<float>(kPeakLevel / peak);
-        for (float& sample : raw) sample *= gain;
-    }
+    level(raw, kLoudnessDb + accentDb);
     raw.resize(raw.size() + samplesIn(kSilenceSeconds), 0.0f);
     return raw;
 }

@@ -7,6 +7,7 @@
 #include <span>
 
 #include "Filter.h"
+#include "Master.h"
 #include "Recipes.h"
 #include "Room.h"
 #include "Voices.h"
@@ -102,7 +103,7 @@ Draft policeSiren() {
         phase += kTwoPi * frequency / kSampleRate;
     }
     Biquad::lowpass(3200.0).apply(dry);
-    return {inRoom(dry, {.wet = 0.12, .reverbTime = 0.4}, 0.25), 0.04, 1.15};
+    return {inRoom(dry, {.wet = 0.12, .reverbTime = 0.4}, 0.25), 0.04, 1.15, kAccentDb};
 }
 
 Draft bankruptFigure() {
@@ -113,7 +114,7 @@ Draft bankruptFigure() {
     Signal dry;
     playBrass(dry, kFall, 0.3);
     playBrass(dry, kFall, 0.3, -12, 0.4);
-    return {inRoom(dry, {.wet = 0.15, .reverbTime = 0.6}, 0.2), 0.05};
+    return {inRoom(dry, {.wet = 0.15, .reverbTime = 0.6}, 0.2), 0.05, 1.5, kAccentDb};
 }
 
 }  // namespace gw::soundgen

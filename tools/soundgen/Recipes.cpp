@@ -53,7 +53,7 @@ Draft draftOf(SoundEffect effect) {
 
 Signal render(SoundEffect effect) {
     Draft draft = draftOf(effect);
-    return master(std::move(draft.signal), draft.fadeOut, draft.maxSeconds);
+    return master(std::move(draft.signal), draft.fadeOut, draft.maxSeconds, draft.accentDb);
 }
 
 }  // namespace gw::soundgen

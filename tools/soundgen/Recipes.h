@@ -11,6 +11,7 @@ struct Draft {
     Signal signal;
     double fadeOut = 0.03;    // seconds, within 20-50 ms
     double maxSeconds = 1.5;  // a longer room tail is cut and faded here
+    double accentDb = 0.0;    // above the loudness of the rest, for the few that must stand out
 };
 
 // The finished samples of `effect`, ready to be written.
