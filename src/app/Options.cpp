@@ -41,6 +41,11 @@ Options parseOptions(const QStringList& args) {
             } else {
                 options.error = "--leave-by takes close or exit";
             }
+        } else if (arg == QLatin1String("--pace")) {
+            const QString name = i + 1 < args.size() ? args[++i] : QString();
+            const std::optional<Pace> pace = paceFromName(name.toStdString());
+            if (!pace) options.error = "--pace takes designed, fast or instant";
+            options.pace = pace.value_or(Pace::Designed);
         } else if (arg == QLatin1String("--seed")) {
             if (!readNumber(args, i, 0, LLONG_MAX, value)) options.error = "--seed takes a number";
             options.seed = static_cast<std::uint64_t>(value);

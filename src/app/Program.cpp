@@ -19,6 +19,7 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
     end_ = std::make_unique<view::GameEndView>(dispatch_, run.gameEnd());
     about_ = std::make_unique<view::AboutView>(dispatch_, run.about());
     if (delay) {
+        paceMenu_ = std::make_unique<view::PaceMenu>(*main_, delay->pacing());
         dispatch_.setAfterClick([this, delay] {
             if (run_.isWindingDown()) delay->cutShort();
         });
@@ -49,6 +50,7 @@ void Program::refreshAll() {
     end_->refresh();
     start_->refresh();
     main_->refresh();
+    if (paceMenu_) paceMenu_->refresh();
     if (onRefreshed_) onRefreshed_();
 }
 

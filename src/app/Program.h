@@ -8,6 +8,7 @@
 #include "view/CardViews.h"
 #include "view/Dispatch.h"
 #include "view/MainWindowView.h"
+#include "view/PaceMenu.h"
 #include "view/StartEndViews.h"
 
 namespace gw {
@@ -37,6 +38,8 @@ public:
     view::TaxCardView& taxCard() { return *tax_; }
     view::GameEndView& endView() { return *end_; }
     view::AboutView& aboutView() { return *about_; }
+    // Game > Pace; there is none without a real delay.
+    view::PaceMenu* paceMenu() { return paceMenu_.get(); }
 
 private:
     void scheduleRefresh();
@@ -51,6 +54,7 @@ private:
     std::unique_ptr<view::TaxCardView> tax_;
     std::unique_ptr<view::GameEndView> end_;
     std::unique_ptr<view::AboutView> about_;
+    std::unique_ptr<view::PaceMenu> paceMenu_;
     bool refreshScheduled_ = false;
     std::function<void()> onRefreshed_;
     // Set while this object lives: a refresh queued from the event loop checks it.

@@ -17,7 +17,10 @@ GameRun::GameRun(Sound& sound, Delay& delay, MessageBox& messages, std::unique_p
     main_.setOnGameEnd([this] { end_.Form_Load(); });
     end_.setOnNewGame([this] { requestNewGame(); });
     end_.setOnExit([this] { requestExit(); });
-    board_.setOnTurnPlayed([this] { return !isWindingDown(); });
+    board_.setOnTurnPlayed([this] {
+        ++computerTurns_;
+        return !isWindingDown();
+    });
 }
 
 void GameRun::start() {
@@ -82,6 +85,7 @@ void GameRun::newGame() {
 
 void GameRun::beginGame(const GameSetup& setup) {
     board_.addPlayers(setup);
+    computerTurns_ = 0;
     if (onGameBegin_) onGameBegin_();
     main_.init(board_);
     main_.show();

@@ -50,6 +50,8 @@ public:
     // has happened: waits return at once and no further computer turn starts.
     bool isWindingDown() const { return exitPending_ || newGamePending_; }
     bool hasExited() const { return exited_; }
+    // Computer turns played in the game now running or just over.
+    long long computerTurns() const { return computerTurns_; }
 
     Board& board() { return board_; }
     const Board& board() const { return board_; }
@@ -93,6 +95,7 @@ private:
     bool exitPending_ = false;
     bool newGamePending_ = false;
     bool exited_ = false;
+    long long computerTurns_ = 0;
     std::function<void()> onExit_;
     std::function<void()> onGameBegin_;
 };
