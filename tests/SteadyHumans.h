@@ -44,13 +44,12 @@ inline void seatPlayers(GameRun& run, const std::vector<std::pair<std::string, b
     int token = 0;
     for (const auto& [name, computer] : seats) {
         run.click([&] {
-            // Typed first: the entry closes once the next player is a computer.
+            // Typed while the entry is open, that is for a human: the name of a computer
+            // is compared with those seated too.
+            start.Image4_Click();
             start.NickName_Change(name);
-            if (computer != start.nextIsComputer()) {
-                computer ? start.Image1_Click() : start.Image4_Click();
-            }
+            if (computer) start.Image1_Click();
             start.Token_Click(token);
-            if (!computer) start.NickName_Change(name);
             start.Command1_Click();
         });
         ++token;

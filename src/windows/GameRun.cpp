@@ -6,11 +6,13 @@ GameRun::GameRun(Sound& sound, Delay& delay, MessageBox& messages, std::unique_p
     : sound_(sound),
       delay_(*this, delay),
       main_(sound, delay_),
+      storyWindow_(story_),
       rulesWindow_(main_),
       windows_(rulesWindow_, sound, delay_),
       board_(windows_, std::move(random)),
       start_(board_, sound, messages),
       end_(main_) {
+    rulesWindow_.setWatcher(&storyWindow_);
     start_.setOnStart([this](const GameSetup& setup) { beginGame(setup); });
     main_.setOnExit([this] { requestExit(); });
     main_.setOnAbout([this] { about_.show(); });
@@ -36,7 +38,7 @@ void GameRun::setOnChanged(std::function<void()> hook) {
 }
 
 void GameRun::watchMainWindow(MainWindowPort& watcher, std::function<void()> onGameBegin) {
-    rulesWindow_.setWatcher(&watcher);
+    storyWindow_.setWatcher(&watcher);
     onGameBegin_ = std::move(onGameBegin);
 }
 
@@ -86,6 +88,7 @@ void GameRun::newGame() {
 void GameRun::beginGame(const GameSetup& setup) {
     board_.addPlayers(setup);
     computerTurns_ = 0;
+    story_.begin(board_);
     if (onGameBegin_) onGameBegin_();
     main_.init(board_);
     main_.show();

@@ -12,6 +12,7 @@
 #include "windows/Delay.h"
 #include "windows/GameEnd.h"
 #include "windows/GameStart.h"
+#include "windows/GameStory.h"
 #include "windows/MainWindow.h"
 #include "windows/MainWindowTee.h"
 #include "windows/MessageBox.h"
@@ -53,6 +54,8 @@ public:
     // Computer turns played in the game now running or just over.
     long long computerTurns() const { return computerTurns_; }
 
+    // The story of the game now running or just over, for the end window.
+    const GameStory& story() const { return story_; }
     Board& board() { return board_; }
     const Board& board() const { return board_; }
     MainWindow& mainWindow() { return main_; }
@@ -84,6 +87,9 @@ private:
     Sound& sound_;
     RunDelay delay_;
     MainWindow main_;
+    GameStory story_;
+    // The story hears what the main window hears, and passes it on to a tool's watcher.
+    MainWindowTee storyWindow_;
     MainWindowTee rulesWindow_;
     Windows windows_;
     Board board_;
