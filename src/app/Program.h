@@ -10,6 +10,7 @@
 #include "view/MainWindowView.h"
 #include "view/PaceMenu.h"
 #include "view/StartEndViews.h"
+#include "view/StoryView.h"
 
 namespace gw {
 class GameRun;
@@ -40,6 +41,7 @@ public:
     view::AboutView& aboutView() { return *about_; }
     // Game > Pace; there is none without a real delay.
     view::PaceMenu* paceMenu() { return paceMenu_.get(); }
+    view::StoryView& storyView() { return *story_; }
 
 private:
     void scheduleRefresh();
@@ -55,6 +57,7 @@ private:
     std::unique_ptr<view::GameEndView> end_;
     std::unique_ptr<view::AboutView> about_;
     std::unique_ptr<view::PaceMenu> paceMenu_;
+    std::unique_ptr<view::StoryView> story_;
     bool refreshScheduled_ = false;
     std::function<void()> onRefreshed_;
     // Set while this object lives: a refresh queued from the event loop checks it.
