@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "CallLog.h"
 #include "Signature.h"
 #include "SteadyHumans.h"
 #include "game/Random.h"
@@ -144,38 +145,6 @@ TEST(PaceTest, InstantSkipsTheSoundsButNotTheVolume) {
     EXPECT_EQ(inner.played, (std::vector<std::string>{"DICEROLL.wav", "tokenmove.wav"}));
     EXPECT_EQ(inner.volumes, (std::vector<int>{kMutedVolume}));
 }
-
-// Every call the rules make to the main window, one line each.
-class CallLog final : public MainWindowPort {
-public:
-    std::vector<std::string> lines;
-    void showInfo(std::string_view msg) override { add("showInfo " + std::string(msg)); }
-    void UpdateTurnPlaying(TurnButtons opt) override {
-        add("UpdateTurnPlaying " + std::to_string(static_cast<int>(opt)));
-    }
-    void Showdice(Integer a, Integer b) override {
-        add("Showdice " + std::to_string(a) + " " + std::to_string(b));
-    }
-    void MoveToken(Integer id, Integer from, Integer to) override {
-        add("MoveToken " + std::to_string(id) + " " + std::to_string(from) + " " +
-            std::to_string(to));
-    }
-    void UpdatePlayers() override { add("UpdatePlayers"); }
-    void showCell(const OnCell&, Integer cellId) override {
-        add("showCell " + std::to_string(cellId));
-    }
-    void showOwner(Integer cellId) override { add("showOwner " + std::to_string(cellId)); }
-    void showHotel(Integer cellId) override { add("showHotel " + std::to_string(cellId)); }
-    void showMort(Integer cellId) override { add("showMort " + std::to_string(cellId)); }
-    void showInJail() override { add("showInJail"); }
-    void showNegBalance(bool neg) override { add(neg ? "showNegBalance 1" : "showNegBalance 0"); }
-    void showBankRupt() override { add("showBankRupt"); }
-    void setEnabled(bool enabled) override { add(enabled ? "setEnabled 1" : "setEnabled 0"); }
-    void showGameEnd() override { add("showGameEnd"); }
-
-private:
-    void add(std::string line) { lines.push_back(std::move(line)); }
-};
 
 struct PacedGame {
     std::vector<std::string> calls;

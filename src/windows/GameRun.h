@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "game/Board.h"
 #include "game/Random.h"
@@ -16,6 +17,7 @@
 #include "windows/MainWindow.h"
 #include "windows/MainWindowTee.h"
 #include "windows/MessageBox.h"
+#include "windows/ReplayRandom.h"
 #include "windows/Sound.h"
 #include "windows/Windows.h"
 
@@ -46,6 +48,15 @@ public:
     // run as each game begins, its players seated and no turn played: for tools that keep
     // their own books of what people do through the windows.
     void watchMainWindow(MainWindowPort& watcher, std::function<void()> onGameBegin);
+
+    // The game watched again: the draws and the clicks of the game just over, played from
+    // memory on the same windows until its end. Clicks are ignored while it runs; Stop
+    // plays the rest at once, without waits. The hook hears the start (true) and the end.
+    bool canWatchAgain() const;
+    void watchAgain();
+    void stopWatching() { stopWatching_ = true; }
+    bool isReplaying() const { return replaying_; }
+    void setOnReplay(std::function<void(bool)> hook) { onReplay_ = std::move(hook); }
 
     // True from the moment the end of the program or a new game is asked for until it
     // has happened: waits return at once and no further computer turn starts.
@@ -78,6 +89,12 @@ private:
         Delay& inner_;
     };
 
+    // A click of the game being played, and the wait in progress when it came.
+    struct RecordedClick {
+        std::function<void()> handler;
+        long long wait = 0;  // 0: between the chains of the rules
+    };
+    void replayClicksInside(long long wait);
     void requestExit();
     void requestNewGame();
     void newGame();
@@ -85,7 +102,9 @@ private:
     void finishPending();
 
     Sound& sound_;
+    Delay& realDelay_;
     RunDelay delay_;
+    ReplayRandom* random_ = nullptr;
     MainWindow main_;
     GameStory story_;
     // The story hears what the main window hears, and passes it on to a tool's watcher.
@@ -102,6 +121,15 @@ private:
     bool newGamePending_ = false;
     bool exited_ = false;
     long long computerTurns_ = 0;
+    GameSetup setup_;
+    std::vector<RecordedClick> clicks_;
+    std::size_t nextClick_ = 0;
+    long long waitsStarted_ = 0;
+    std::vector<long long> waitsRunning_;
+    bool recording_ = false;
+    bool replaying_ = false;
+    bool stopWatching_ = false;
+    std::function<void(bool)> onReplay_;
     std::function<void()> onExit_;
     std::function<void()> onGameBegin_;
 };
