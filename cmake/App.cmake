@@ -19,7 +19,8 @@ list(FILTER VIEW_SOURCES EXCLUDE REGEX ".*/app/main\\.cpp$")
 add_library(gildenway_view STATIC ${VIEW_SOURCES})
 set_target_properties(gildenway_view PROPERTIES AUTOMOC ON)
 target_include_directories(gildenway_view PUBLIC ${CMAKE_SOURCE_DIR}/src)
-target_link_libraries(gildenway_view PUBLIC gildenway_core gildenway_cli gildenway_options
+# The simulator's end-state hash gives the last line of a run of computer players.
+target_link_libraries(gildenway_view PUBLIC gildenway_core gildenway_cli gildenway_sim gildenway_options
                                             gildenway_art Qt6::Widgets Qt6::Multimedia)
 # Games install into <prefix>/games, as Debian keeps them; the game finds its sounds relative to
 # its own folder so that any prefix works.

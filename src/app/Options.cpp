@@ -67,6 +67,14 @@ const std::vector<Row>& rows() {
          QStringLiteral("Fix the chance with seed S instead of the clock."),
          number(QStringLiteral("seed"), 0, std::numeric_limits<std::int64_t>::max(),
                 [](Options& o, std::uint64_t v) { o.seed = v; })},
+        {QStringLiteral("pace"), QStringLiteral("designed|fast|instant"),
+         QStringLiteral("The pace the game starts at; Game > Pace changes it later."),
+         [](Options& o, const QString& name) {
+             const std::optional<Pace> pace = paceFromName(name.toStdString());
+             if (!pace) return QStringLiteral("--pace takes designed, fast or instant");
+             o.pace = *pace;
+             return QString();
+         }},
         {QStringLiteral("close-after-ms"), QStringLiteral("MS"),
          QStringLiteral("Leave after MS ms (1 to 600000), by the way --leave-by names."),
          whole(QStringLiteral("close-after-ms"), 1, 600000, &Options::closeAfterMs)},

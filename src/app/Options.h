@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "windows/Pace.h"
+
 namespace gw::app {
 
 struct Options {
@@ -19,6 +21,8 @@ struct Options {
     // Seat this many computer players, start, and quit when the game is over.
     int computers = 0;
     int tickMs = 80;
+    // The pace the game starts at; Game > Pace changes it later.
+    Pace pace = Pace::Designed;
     // Leave the program this long after the start (0: never), by the main window's close
     // box or by File > Exit, to show that leaving in the middle of a wait ends it cleanly.
     int closeAfterMs = 0;

@@ -18,7 +18,9 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
     tax_ = std::make_unique<view::TaxCardView>(dispatch_, w.taxCard);
     end_ = std::make_unique<view::GameEndView>(dispatch_, run.gameEnd());
     about_ = std::make_unique<view::AboutView>(dispatch_, run.about());
+    story_ = std::make_unique<view::StoryView>(run.story(), run.gameEnd());
     if (delay) {
+        paceMenu_ = std::make_unique<view::PaceMenu>(*main_, delay->pacing());
         dispatch_.setAfterClick([this, delay] {
             if (run_.isWindingDown()) delay->cutShort();
         });
@@ -47,8 +49,10 @@ void Program::refreshAll() {
     tax_->refresh();
     about_->refresh();
     end_->refresh();
+    story_->refresh();
     start_->refresh();
     main_->refresh();
+    if (paceMenu_) paceMenu_->refresh();
     if (onRefreshed_) onRefreshed_();
 }
 

@@ -8,7 +8,9 @@
 #include "view/CardViews.h"
 #include "view/Dispatch.h"
 #include "view/MainWindowView.h"
+#include "view/PaceMenu.h"
 #include "view/StartEndViews.h"
+#include "view/StoryView.h"
 
 namespace gw {
 class GameRun;
@@ -37,6 +39,9 @@ public:
     view::TaxCardView& taxCard() { return *tax_; }
     view::GameEndView& endView() { return *end_; }
     view::AboutView& aboutView() { return *about_; }
+    // Game > Pace; there is none without a real delay.
+    view::PaceMenu* paceMenu() { return paceMenu_.get(); }
+    view::StoryView& storyView() { return *story_; }
 
 private:
     void scheduleRefresh();
@@ -51,6 +56,8 @@ private:
     std::unique_ptr<view::TaxCardView> tax_;
     std::unique_ptr<view::GameEndView> end_;
     std::unique_ptr<view::AboutView> about_;
+    std::unique_ptr<view::PaceMenu> paceMenu_;
+    std::unique_ptr<view::StoryView> story_;
     bool refreshScheduled_ = false;
     std::function<void()> onRefreshed_;
     // Set while this object lives: a refresh queued from the event loop checks it.

@@ -1,22 +1,44 @@
 #include "app/QtDelay.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
 #include <algorithm>
 
 namespace gw::app {
 
-void QtDelay::wait(Integer ticks) {
-    if (ticks <= 0) return;
+QtDelay::QtDelay(int tickMs) : paced_(*this, tickMs) {
+    clock_.start();
+}
+
+WaitClock::End QtDelay::waitMs(long long ms) {
     QEventLoop loop;
-    loops_.push_back(&loop);
-    QTimer::singleShot(ticks * tickMs_, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    Running running{&loop, End::Elapsed};
+    loops_.push_back(&running);
+    QTimer::singleShot(static_cast<int>(ms), Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec();
-    loops_.erase(std::find(loops_.begin(), loops_.end(), &loop));
+    loops_.erase(std::find(loops_.begin(), loops_.end(), &running));
+    return running.end;
+}
+
+void QtDelay::wake() {
+    endAll(End::Woken);
 }
 
 void QtDelay::cutShort() {
-    for (QEventLoop* loop : loops_) loop->quit();
+    endAll(End::CutShort);
+}
+
+void QtDelay::serveEvents() {
+    QCoreApplication::processEvents();
+}
+
+void QtDelay::endAll(End end) {
+    for (Running* running : loops_) {
+        // A wait cut short stays cut short, whatever wakes it after.
+        if (running->end != End::CutShort) running->end = end;
+        running->loop->quit();
+    }
 }
 
 }  // namespace gw::app

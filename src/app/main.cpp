@@ -7,6 +7,7 @@
 #include <cstdio>
 
 #include "app/Autoplay.h"
+#include "app/EndLine.h"
 #include "app/MessageFilter.h"
 #include "app/Options.h"
 #include "app/Program.h"
@@ -15,6 +16,7 @@
 #include "app/QtSound.h"
 #include "view/Style.h"
 #include "windows/GameRun.h"
+#include "windows/PacedSound.h"
 
 namespace {
 
@@ -91,8 +93,10 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "gildenway: %s\n", qPrintable(warning));
     }
     gw::app::QtDelay delay(options.tickMs);
+    delay.pacing().setPace(options.pace);
+    gw::PacedSound pacedSound(sound, delay.pacing());
     gw::app::QtMessageBox messages;
-    gw::GameRun run(sound, delay, messages, randomSource(options));
+    gw::GameRun run(pacedSound, delay, messages, randomSource(options));
     run.setOnExit([] { QCoreApplication::exit(0); });
 
     run.start();
@@ -105,9 +109,13 @@ int main(int argc, char** argv) {
     if (options.quitWhenShown || (!options.screenshot.isEmpty() && !leaveLater)) {
         program.startView().installEventFilter(&quitWhenShown);
     }
+    bool endPrinted = false;
     if (options.computers > 0) {
         program.setOnRefreshed([&] {
-            if (run.gameEnd().isVisible()) {
+            if (run.gameEnd().isVisible() && !endPrinted) {
+                endPrinted = true;
+                std::printf("%s\n", gw::app::endLine(run).c_str());
+                std::fflush(stdout);
                 program.dispatch().click([&] { run.gameEnd().Command2_Click(); });
             }
         });

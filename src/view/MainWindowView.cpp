@@ -119,7 +119,9 @@ QAction& MainWindowView::action(std::string_view name) const {
 void MainWindowView::refresh() {
     controls_->apply(model_);
     client_->setEnabled(model_.isEnabled());
-    menuBar()->setEnabled(model_.isEnabled());
+    for (QAction* menu : menuBar()->actions()) {
+        menu->setEnabled(model_.isEnabled() || menu->property(kOpenWhileCardUp).toBool());
+    }
     board_->update();
     for (PictureWidget* panel : panels_) panel->update();
     if (model_.isVisible() != isVisible()) setVisible(model_.isVisible());

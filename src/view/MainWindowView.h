@@ -21,6 +21,8 @@ public:
     MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints prints);
 
     void refresh();
+    // A menu of the bar whose action carries this property stays open while a card is up.
+    static constexpr const char* kOpenWhileCardUp = "openWhileCardUp";
     const ControlSet& controls() const { return *controls_; }
     BoardWidget& board() { return *board_; }
     QAction& action(std::string_view name) const;

@@ -6,15 +6,18 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "game/Board.h"
 #include "game/Random.h"
 #include "windows/Delay.h"
 #include "windows/GameEnd.h"
 #include "windows/GameStart.h"
+#include "windows/GameStory.h"
 #include "windows/MainWindow.h"
 #include "windows/MainWindowTee.h"
 #include "windows/MessageBox.h"
+#include "windows/ReplayRandom.h"
 #include "windows/Sound.h"
 #include "windows/Windows.h"
 
@@ -46,11 +49,24 @@ public:
     // their own books of what people do through the windows.
     void watchMainWindow(MainWindowPort& watcher, std::function<void()> onGameBegin);
 
+    // The game watched again: the draws and the clicks of the game just over, played from
+    // memory on the same windows until its end. Clicks are ignored while it runs; Stop
+    // plays the rest at once, without waits. The hook hears the start (true) and the end.
+    bool canWatchAgain() const;
+    void watchAgain();
+    void stopWatching() { stopWatching_ = true; }
+    bool isReplaying() const { return replaying_; }
+    void setOnReplay(std::function<void(bool)> hook) { onReplay_ = std::move(hook); }
+
     // True from the moment the end of the program or a new game is asked for until it
     // has happened: waits return at once and no further computer turn starts.
     bool isWindingDown() const { return exitPending_ || newGamePending_; }
     bool hasExited() const { return exited_; }
+    // Computer turns played in the game now running or just over.
+    long long computerTurns() const { return computerTurns_; }
 
+    // The story of the game now running or just over, for the end window.
+    const GameStory& story() const { return story_; }
     Board& board() { return board_; }
     const Board& board() const { return board_; }
     MainWindow& mainWindow() { return main_; }
@@ -73,6 +89,12 @@ private:
         Delay& inner_;
     };
 
+    // A click of the game being played, and the wait in progress when it came.
+    struct RecordedClick {
+        std::function<void()> handler;
+        long long wait = 0;  // 0: between the chains of the rules
+    };
+    void replayClicksInside(long long wait);
     void requestExit();
     void requestNewGame();
     void newGame();
@@ -80,8 +102,13 @@ private:
     void finishPending();
 
     Sound& sound_;
+    Delay& realDelay_;
     RunDelay delay_;
+    ReplayRandom* random_ = nullptr;
     MainWindow main_;
+    GameStory story_;
+    // The story hears what the main window hears, and passes it on to a tool's watcher.
+    MainWindowTee storyWindow_;
     MainWindowTee rulesWindow_;
     Windows windows_;
     Board board_;
@@ -93,6 +120,16 @@ private:
     bool exitPending_ = false;
     bool newGamePending_ = false;
     bool exited_ = false;
+    long long computerTurns_ = 0;
+    GameSetup setup_;
+    std::vector<RecordedClick> clicks_;
+    std::size_t nextClick_ = 0;
+    long long waitsStarted_ = 0;
+    std::vector<long long> waitsRunning_;
+    bool recording_ = false;
+    bool replaying_ = false;
+    bool stopWatching_ = false;
+    std::function<void(bool)> onReplay_;
     std::function<void()> onExit_;
     std::function<void()> onGameBegin_;
 };
