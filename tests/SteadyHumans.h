@@ -8,7 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "windows/CellInfoWindow.h"
 #include "windows/GameRun.h"
+#include "windows/JFLCardWindow.h"
+#include "windows/TradingCardWindow.h"
+#include "windows/taxCellWindow.h"
 
 namespace gw::test {
 
