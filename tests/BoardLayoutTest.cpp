@@ -1,6 +1,5 @@
 // The ring of cells and what a landing on each kind does.
 #include "GameFixture.h"
-#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {
@@ -78,7 +77,7 @@ TEST_F(Layout, LandingOnAMortgagedOrOwnCellAsksNothing) {
     for (Integer cellId : {8, 9}) {
         ann.setDidAction(false);
         land(ann, cellId);
-        EXPECT_FALSE(card().isVisible()) << cellId;
+        EXPECT_FALSE(cardUp()) << cellId;
         EXPECT_TRUE(ann.getDidAction()) << cellId;
         EXPECT_EQ(ann.getBalance(), 1500) << cellId;
     }

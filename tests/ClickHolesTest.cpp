@@ -24,6 +24,29 @@ protected:
         addPlayer("Cat", 2);
         letsStart();
     }
+    // The purchase card of the cell Ann stood on is left up while she throws onto the
+    // luxury tax: Forget or Buy on it only closes it, and the tax is still to be paid.
+    void staleCardOverTheTax(bool forget) {
+        seatThree();
+        for (auto [a, b] : {std::pair{1, 2}, std::pair{5, 6}, std::pair{5, 6}, std::pair{4, 5}}) {
+            throwAndPass(a, b);  // Ann: 3, 14, 25, 34
+            throwAndPass(1, 2);
+            throwAndPass(1, 2);
+        }
+        ASSERT_EQ(seat(0).getPosition(), 34);
+        click([&] { main().cell_Click(34); });
+        ASSERT_TRUE(card().buy().isOpen());
+        const Integer before = seat(0).getBalance();
+
+        nextThrow(1, 3);  // 34 to 38, the luxury tax
+        roll();
+        ASSERT_EQ(seat(0).getPosition(), 38);
+        click([&] { forget ? card().forget_Click() : card().buy_Click(); });
+        EXPECT_EQ(board().propertyAt(34)->getProp().getOwners(), nullptr);
+        EXPECT_FALSE(seat(0).getDidAction());
+        endTurn();
+        EXPECT_EQ(main().Label2(), "Ann");  // the tax holds the turn
+    }
 };
 
 TEST_F(ClickHoles, ABuyClickDuringAWalkPastGoSeesTheRingAndBuysNothing) {
@@ -52,6 +75,14 @@ TEST_F(ClickHoles, ABuyClickDuringAWalkPastGoSeesTheRingAndBuysNothing) {
     EXPECT_EQ(seat(0).getBalance(), 1700);  // Go money, and nothing bought
     EXPECT_EQ(seat(0).getPosition(), 3);
     EXPECT_TRUE(main().isEnabled());
+}
+
+TEST_F(ClickHoles, ForgetOnAStaleCardOverATaxLandingLeavesTheTaxDue) {
+    staleCardOverTheTax(true);
+}
+
+TEST_F(ClickHoles, BuyOnAStaleCardOverATaxLandingLeavesTheTaxDue) {
+    staleCardOverTheTax(false);
 }
 
 TEST_F(ClickHoles, AHumanInDebtWithNothingToSellIsOfferedBankruptcy) {

@@ -1,7 +1,6 @@
 // The chain of doubles: a throw without doubles ends it, jail voids the throw it promised,
 // and a failed throw in jail shows its message and buttons in their order.
 #include "GameFixture.h"
-#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {
@@ -21,7 +20,7 @@ TEST_F(DoublesAndJail, AThrowWithoutDoublesEndsTheChainAndTheTurnPassesOn) {
     ASSERT_EQ(&board->getCurrPlayer(), ann);
     throwAndLand(1, 2);  // to Saint-Sulpice, for sale
     EXPECT_EQ(ann->getDoubleCount(), 0);
-    card().forget_Click();
+    forgetCard();
     board->endTurn();
     EXPECT_EQ(&board->getCurrPlayer(), bob);
     EXPECT_EQ(rec.log.back(), "showInJail");

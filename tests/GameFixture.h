@@ -109,6 +109,10 @@ protected:
     }
     CellInfoWindow& card() { return windows.cellInfo; }
     TradingCardWindow& trading() { return windows.trading; }
+    // The two uses of the property card that most tests need, kept out of line so that
+    // those tests do not rebuild with every change to the card.
+    bool cardUp() const;
+    void forgetCard();
 
     Recorder rec;
     Windows windows{rec, rec, rec};

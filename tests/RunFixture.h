@@ -13,7 +13,6 @@
 #include <vector>
 
 #include "GameFixture.h"
-#include "windows/CellInfoWindow.h"
 #include "windows/GameRun.h"
 #include "windows/Windows.h"
 
@@ -101,12 +100,7 @@ protected:
     }
     CellInfoWindow& card() { return windows().cellInfo; }
     // A throw whose landing on an unowned cell is let go, then End Turn.
-    void throwAndPass(int a, int b) {
-        nextThrow(a, b);
-        roll();
-        if (card().isVisible() && card().forget().isOpen()) click([&] { card().forget_Click(); });
-        endTurn();
-    }
+    void throwAndPass(int a, int b);
     Lines buttons() const {
         const MainWindow& m = run->mainWindow();
         return shown(

@@ -6,8 +6,9 @@
 #include <algorithm>
 #include <vector>
 
-#include "Checker.h"
+#include "LedgerWindow.h"
 #include "Simulation.h"
+#include "game/Board.h"
 #include "windows/Windows.h"
 
 namespace gw::test {
@@ -115,21 +116,6 @@ TEST(Simulator, PartsOfARunAddUpToTheWholeAndKeepTheFirstFaults) {
     ASSERT_EQ(whole.faults.size(), sim::Summary::kKeptFaults);
     EXPECT_EQ(whole.faults.front().second, "fault in game 1");
     EXPECT_EQ(whole.faults.back().second, "fault in game 19");
-}
-
-TEST(Simulator, AStrayPaymentIsCaught) {
-    sim::LedgerWindow window(true);
-    SilentSound sound;
-    InstantDelay delay;
-    Windows windows(window, sound, delay);
-    Board board(windows, std::make_unique<SeededRandom>(5));
-    board.init();
-    board.addPlayer("A", true, 0);
-    board.addPlayer("B", true, 1);
-    window.attach(board);
-    sim::Checker checker(board, window);
-    board.getPlayer(1)->credit(7);
-    EXPECT_TRUE(checker.afterTurn(0).has_value());
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // The small squares of the cells in the main window model: a token leaves the squares of
 // the cell it walks away from and fills those of the cell it lands on.
 #include "GameFixture.h"
-#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {
@@ -37,14 +36,14 @@ TEST_F(TokenSquares, AThrowRedrawsTheCellLeftWithoutTheToken) {
     EXPECT_EQ(squares(0), Tokens{6});  // Bob stays on Go
     EXPECT_EQ(squares(3), Tokens{4});
 
-    card().forget_Click();
+    forgetCard();
     board->endTurn();
     nextThrow(2, 1);
     board->playTurn();  // Bob joins her
     EXPECT_EQ(squares(0), Tokens{});
     EXPECT_EQ(squares(3), (Tokens{4, 6}));
 
-    card().forget_Click();
+    forgetCard();
     board->endTurn();
     placeAt(ann, 38);
     board->getCell(38)->display();

@@ -55,6 +55,18 @@ QtSound::QtSound(const QStringList& folders, bool deviceCheck) {
         }
     }
     volumes_.fill(linearVolume(kNormalVolume));
+    if (!hasOutput_) return;
+    for (std::size_t p = 0; p < ready_.size(); ++p) {
+        for (std::size_t e = 0; e < kSoundEffectCount; ++e) prepare(p, e);
+    }
+}
+
+void QtSound::prepare(std::size_t player, std::size_t effect) {
+    const QUrl& url = files_[effect];
+    if (url.isEmpty()) return;
+    auto sound = std::make_unique<QSoundEffect>();
+    sound->setSource(url);
+    ready_[player][effect] = std::move(sound);
 }
 
 QtSound::~QtSound() = default;
@@ -79,12 +91,17 @@ QString QtSound::startupWarning() const {
 void QtSound::play(MediaPlayer player, SoundEffect effect) {
     const QUrl& url = files_[static_cast<std::size_t>(effect)];
     if (!hasOutput_ || url.isEmpty()) return;
-    // A new effect for each play starts cleanly; the old one stops as it is destroyed.
-    auto sound = std::make_unique<QSoundEffect>();
-    sound->setSource(url);
-    sound->setVolume(static_cast<float>(volumes_[index(player)]));
+    // A fresh effect for each play starts cleanly (a replayed one was silent now and then);
+    // the old one stops as it is destroyed. This one was loaded ahead, and the next is
+    // loaded now, while it sounds.
+    const std::size_t p = index(player);
+    const auto e = static_cast<std::size_t>(effect);
+    if (!ready_[p][e]) prepare(p, e);
+    std::unique_ptr<QSoundEffect> sound = std::move(ready_[p][e]);
+    sound->setVolume(static_cast<float>(volumes_[p]));
     sound->play();
-    playing_[index(player)] = std::move(sound);
+    playing_[p] = std::move(sound);
+    prepare(p, e);
 }
 
 void QtSound::setVolume(MediaPlayer player, int hundredthsOfDb) {

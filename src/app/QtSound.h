@@ -1,5 +1,6 @@
 // The real sound: four players, each play a fresh sound effect that cuts off the one that
-// player was sounding. No output device or no file is silence.
+// player was sounding. Each player's next effect of each sound is loaded ahead, so that a
+// play only starts it. No output device or no file is silence.
 #pragma once
 
 #include <QString>
@@ -37,11 +38,14 @@ public:
 
 private:
     static std::size_t index(MediaPlayer p) { return static_cast<std::size_t>(p); }
+    // Loads the effect that the player's next play of the sound will start.
+    void prepare(std::size_t player, std::size_t effect);
 
     bool hasOutput_ = false;
     int unplayable_ = 0;
     std::array<QUrl, kSoundEffectCount> files_;
     std::array<std::unique_ptr<QSoundEffect>, 4> playing_;
+    std::array<std::array<std::unique_ptr<QSoundEffect>, kSoundEffectCount>, 4> ready_;
     std::array<qreal, 4> volumes_{};
 };
 

@@ -17,8 +17,7 @@ void player::autoMakeMoney(Integer amount) {
     std::array<Integer, kCellCount> own{};
     std::size_t ownCount = 0;
     for (Integer i = 0; i < kCellCount; ++i) {
-        const PropertyCell* prop = board_.propertyAt(i);
-        if (prop != nullptr && prop->getProp().getOwners() == this) own[ownCount++] = i;
+        if (holds(i)) own[ownCount++] = i;
     }
     for (int stage = 0; balance_ < amount; ++stage) {
         if (stage == kBankruptcyStage) {

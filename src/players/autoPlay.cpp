@@ -29,12 +29,6 @@ bool holdsAWholeDistrict(const std::array<std::array<bool, 3>, 8>& owned) {
     return false;
 }
 
-// Whether the cell is one of the player's: the first thing every test of a holding asks.
-bool isHeldBy(const Board& board, Integer cellId, const player& p) {
-    const PropertyCell* prop = board.propertyAt(cellId);
-    return prop != nullptr && prop->getProp().getOwners() == &p;
-}
-
 }  // namespace
 
 void player::autoPlay(Integer opt) {
@@ -76,9 +70,7 @@ void player::autoLeaveJailAndRoll() {
 void player::autoReleaseAndAct() {
     if (balance_ >= kReleaseFrom) {
         for (Integer i = 0; i < kCellCount; ++i) {
-            if (!isHeldBy(board_, i, *this) || !board_.propertyAt(i)->getProp().isMortgaged2()) {
-                continue;
-            }
+            if (!holds(i) || !board_.propertyAt(i)->getProp().isMortgaged2()) continue;
             if (canUnmort(i)) unmortgageProp(i);
         }
     }
@@ -126,7 +118,7 @@ void player::autoBuild() {
         // once, from the end of the board down, until the marks stand.
         if (ownedStreets_[0][2] && ownedStreets_[7][2]) return;
         for (Integer i = kCellCount - 1; i >= 0; --i) {
-            if (board_.streetAt(i) != nullptr && isHeldBy(board_, i, *this)) {
+            if (board_.streetAt(i) != nullptr && holds(i)) {
                 canBuild(i);
                 return;
             }
@@ -138,7 +130,7 @@ void player::autoBuild() {
     std::array<Integer, kCellCount> own{};
     std::size_t ownCount = 0;
     for (Integer i = kCellCount - 1; i >= 0; --i) {
-        if (board_.streetAt(i) != nullptr && isHeldBy(board_, i, *this)) own[ownCount++] = i;
+        if (board_.streetAt(i) != nullptr && holds(i)) own[ownCount++] = i;
     }
     for (int pass = 0; pass < kBuildPasses; ++pass) {
         int built = 0;

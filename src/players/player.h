@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 
 #include "game/Integer.h"
@@ -83,6 +84,9 @@ public:
     void mortgageProp(Integer cellId);
     bool canUnmort(Integer cellId);
     void unmortgageProp(Integer cellId);
+    // Whether the player holds the buyable cell, kept as cells change hands so that the
+    // computer's play need not ask all forty cells.
+    bool holds(Integer cellId) const { return ((heldCells_ >> cellId) & 1U) != 0; }
     bool ownsStreetEntry(int row, int column) const {
         return ownedStreets_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
     }
@@ -132,6 +136,7 @@ private:
     bool isBankrupt_ = false;
     Integer doubleCount_ = 0;
     std::array<std::array<bool, 3>, 8> ownedStreets_{};
+    std::uint64_t heldCells_ = 0;  // bit i: cell i is this player's
     Board& board_;
     bool didAction_ = false;
     bool walking_ = false;

@@ -46,11 +46,13 @@ void player::newlyOwn(BoardCell& pProp) {
     PropertyCell* prop = pProp.asProperty();
     if (prop == nullptr) return;
     prop->getProp().setOwner(this);
+    heldCells_ |= std::uint64_t{1} << prop->Cell_getId();
     windows().main.showOwner(prop->getProp().getCell().getId());
     setStreetEntry(pProp, true);
 }
 
 void player::noMoreOwn(BoardCell& pProp) {
+    if (pProp.isProperty()) heldCells_ &= ~(std::uint64_t{1} << pProp.Cell_getId());
     setStreetEntry(pProp, false);
 }
 

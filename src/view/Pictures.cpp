@@ -16,10 +16,7 @@
 #include "art/Render.h"
 #include "art/StartWindow.h"
 #include "art/Tokens.h"
-#include "cells/PropertyCell.h"
-#include "cells/Street.h"
-#include "cells/TaxCell.h"
-#include "game/Board.h"
+#include "windows/CellFaces.h"
 
 namespace gw::view {
 
@@ -31,57 +28,62 @@ struct CellPrint {
 
 namespace {
 
-art::CellFace faceOf(BoardCell& cell) {
-    art::CellFace face;
-    face.name = QString::fromStdString(cell.Cell_getName());
-    switch (cell.kind()) {
-        case CellKind::Go:
-            face.kind = art::CellKind::Go;
-            break;
-        case CellKind::Jail:
-            face.kind = art::CellKind::Jail;
-            break;
-        case CellKind::OlympicPark:
-            face.kind = art::CellKind::FreeStop;
-            break;
-        case CellKind::GoToJail:
-            face.kind = art::CellKind::Police;
-            break;
-        case CellKind::JFL:
-            face.kind = art::CellKind::Jfl;
-            break;
-        case CellKind::IncomeTax:
-        case CellKind::LuxuryTax:
-            face.kind = art::CellKind::Tax;
-            face.price = cell.asTax()->getRent();
-            break;
-        case CellKind::Street:
-            face.kind = art::CellKind::Street;
-            face.band = col::districtBand(cell.asProperty()->groupNumber());
-            break;
-        case CellKind::Metro:
-            face.kind = art::CellKind::Metro;
-            face.band = col::metroBand;
-            break;
-        case CellKind::Utility:
-            face.kind =
-                cell.Cell_getId() == 12 ? art::CellKind::UtilityBulb : art::CellKind::UtilityTower;
-            face.band = col::utilityBand;
-            break;
+art::CellKind artKindOf(CellFaceKind kind) {
+    switch (kind) {
+        case CellFaceKind::Street:
+            return art::CellKind::Street;
+        case CellFaceKind::Metro:
+            return art::CellKind::Metro;
+        case CellFaceKind::UtilityBulb:
+            return art::CellKind::UtilityBulb;
+        case CellFaceKind::UtilityTower:
+            return art::CellKind::UtilityTower;
+        case CellFaceKind::Jfl:
+            return art::CellKind::Jfl;
+        case CellFaceKind::Tax:
+            return art::CellKind::Tax;
+        case CellFaceKind::Go:
+            return art::CellKind::Go;
+        case CellFaceKind::Jail:
+            return art::CellKind::Jail;
+        case CellFaceKind::FreeStop:
+            return art::CellKind::FreeStop;
+        case CellFaceKind::Police:
+            return art::CellKind::Police;
     }
-    if (PropertyCell* prop = cell.asProperty()) face.price = prop->getProp().getPrice();
-    return face;
+    return art::CellKind::Street;
+}
+
+QColor bandOf(const CellFace& face) {
+    switch (face.kind) {
+        case CellFaceKind::Street:
+            return col::districtBand(face.district);
+        case CellFaceKind::Metro:
+            return col::metroBand;
+        case CellFaceKind::UtilityBulb:
+        case CellFaceKind::UtilityTower:
+            return col::utilityBand;
+        default:
+            return {};
+    }
+}
+
+art::CellFace artFaceOf(const CellFace& face) {
+    art::CellFace art;
+    art.kind = artKindOf(face.kind);
+    art.name = QString::fromStdString(face.name);
+    art.price = face.price;
+    art.band = bandOf(face);
+    return art;
 }
 
 }  // namespace
 
-CellPrints cellPrints(const Board& board) {
+CellPrints cellPrints(const CellFaces& faces) {
     CellPrints prints;
     for (int i = 0; i < 40; ++i) {
-        if (BoardCell* cell = board.getCell(static_cast<Integer>(i))) {
-            prints[static_cast<std::size_t>(i)] =
-                std::make_shared<CellPrint>(CellPrint{faceOf(*cell)});
-        }
+        prints[static_cast<std::size_t>(i)] =
+            std::make_shared<CellPrint>(CellPrint{artFaceOf(faces.face(i))});
     }
     return prints;
 }

@@ -14,7 +14,7 @@
 class QPainter;
 
 namespace gw {
-class Board;
+class CellFaces;
 }
 
 namespace gw::view {
@@ -22,10 +22,10 @@ namespace gw::view {
 using Paint = std::function<void(QPainter&, const QRectF&)>;
 
 // The main window
-// What a board cell prints, read once from the cells of a board.
+// What a board cell prints, read once from the faces the window model gives.
 struct CellPrint;
 using CellPrints = std::array<std::shared_ptr<const CellPrint>, 40>;
-CellPrints cellPrints(const Board& board);
+CellPrints cellPrints(const CellFaces& faces);
 void paintCell(QPainter& p, const QRectF& rect, int cellId, const CellPrint& print);
 void paintCentre(QPainter& p, const QRectF& rect);
 void paintToken(QPainter& p, const QRectF& rect, int token);

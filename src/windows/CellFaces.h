@@ -1,0 +1,45 @@
+// What the board prints on each of its forty cells: the kind of face, the name, the
+// price or the tax, and the district of a street. Views paint the board from this alone.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "game/Integer.h"
+#include "game/Limits.h"
+
+namespace gw {
+
+class Board;
+
+enum class CellFaceKind {
+    Street,
+    Metro,
+    UtilityBulb,
+    UtilityTower,
+    Jfl,
+    Tax,
+    Go,
+    Jail,
+    FreeStop,
+    Police
+};
+
+struct CellFace {
+    CellFaceKind kind = CellFaceKind::Street;
+    std::string name;
+    Integer price = 0;     // the price, or the sum a tax cell asks; 0 prints none
+    Integer district = 0;  // 1 to 8 for a street, else 0
+};
+
+class CellFaces {
+public:
+    explicit CellFaces(const Board& board);
+
+    const CellFace& face(int cellId) const { return faces_[static_cast<std::size_t>(cellId)]; }
+
+private:
+    std::array<CellFace, kCellCount> faces_;
+};
+
+}  // namespace gw

@@ -1,0 +1,14 @@
+#include "RunFixture.h"
+
+#include "windows/CellInfoWindow.h"
+
+namespace gw::test {
+
+void RunFixture::throwAndPass(int a, int b) {
+    nextThrow(a, b);
+    roll();
+    if (card().isVisible() && card().forget().isOpen()) click([&] { card().forget_Click(); });
+    endTurn();
+}
+
+}  // namespace gw::test
