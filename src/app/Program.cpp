@@ -18,9 +18,20 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
     tax_ = std::make_unique<view::TaxCardView>(dispatch_, w.taxCard);
     end_ = std::make_unique<view::GameEndView>(dispatch_, run.gameEnd());
     about_ = std::make_unique<view::AboutView>(dispatch_, run.about());
-    story_ = std::make_unique<view::StoryView>(run.story(), run.gameEnd());
+    story_ = std::make_unique<view::StoryView>(dispatch_, run);
     if (delay) {
         paceMenu_ = std::make_unique<view::PaceMenu>(*main_, delay->pacing());
+        replayStop_ = std::make_unique<view::ReplayStop>(*main_, run, delay->pacing());
+        // A game watched again goes at its own pace; the chosen one comes back after.
+        run.setOnReplay([this, delay, chosen = Pace::Designed](bool on) mutable {
+            if (on) {
+                chosen = delay->pacing().pace();
+                delay->pacing().setPace(kReplayPace);
+            } else {
+                delay->pacing().setPace(chosen);
+            }
+            scheduleRefresh();
+        });
         dispatch_.setAfterClick([this, delay] {
             if (run_.isWindingDown()) delay->cutShort();
         });
@@ -30,6 +41,7 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
 
 Program::~Program() {
     run_.setOnChanged({});
+    run_.setOnReplay({});
 }
 
 void Program::scheduleRefresh() {
@@ -53,6 +65,7 @@ void Program::refreshAll() {
     start_->refresh();
     main_->refresh();
     if (paceMenu_) paceMenu_->refresh();
+    if (replayStop_) replayStop_->refresh();
     if (onRefreshed_) onRefreshed_();
 }
 

@@ -9,6 +9,7 @@
 #include "view/Dispatch.h"
 #include "view/MainWindowView.h"
 #include "view/PaceMenu.h"
+#include "view/ReplayStop.h"
 #include "view/StartEndViews.h"
 #include "view/StoryView.h"
 
@@ -42,6 +43,7 @@ public:
     // Game > Pace; there is none without a real delay.
     view::PaceMenu* paceMenu() { return paceMenu_.get(); }
     view::StoryView& storyView() { return *story_; }
+    view::ReplayStop* replayStop() { return replayStop_.get(); }
 
 private:
     void scheduleRefresh();
@@ -58,6 +60,7 @@ private:
     std::unique_ptr<view::AboutView> about_;
     std::unique_ptr<view::PaceMenu> paceMenu_;
     std::unique_ptr<view::StoryView> story_;
+    std::unique_ptr<view::ReplayStop> replayStop_;
     bool refreshScheduled_ = false;
     std::function<void()> onRefreshed_;
     // Set while this object lives: a refresh queued from the event loop checks it.
