@@ -1,6 +1,9 @@
 #include "app/Program.h"
 
+#include <QEvent>
+#include <QPushButton>
 #include <QTimer>
+#include <utility>
 
 #include "app/QtDelay.h"
 #include "windows/GameRun.h"
@@ -29,9 +32,13 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
                 delay->pacing().setPace(kReplayPace);
             } else {
                 delay->pacing().setPace(chosen);
+                if (std::exchange(exitAfterReplay_, false)) {
+                    dispatch_.click([this] { run_.mainWindow().Exit_Click(); });
+                }
             }
             scheduleRefresh();
         });
+        main_->installEventFilter(this);
         dispatch_.setAfterClick([this, delay] {
             if (run_.isWindingDown()) delay->cutShort();
         });
@@ -42,6 +49,16 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
 Program::~Program() {
     run_.setOnChanged({});
     run_.setOnReplay({});
+}
+
+bool Program::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != main_.get() || event->type() != QEvent::Close || !run_.isReplaying()) {
+        return false;
+    }
+    event->ignore();
+    exitAfterReplay_ = true;
+    replayStop_->button().click();
+    return true;
 }
 
 void Program::scheduleRefresh() {

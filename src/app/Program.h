@@ -3,6 +3,7 @@
 // the waits still running.
 #pragma once
 
+#include <QObject>
 #include <memory>
 
 #include "view/CardViews.h"
@@ -21,7 +22,7 @@ namespace gw::app {
 
 class QtDelay;
 
-class Program {
+class Program : public QObject {
 public:
     Program(GameRun& run, QtDelay* delay);
     ~Program();
@@ -45,6 +46,11 @@ public:
     view::StoryView& storyView() { return *story_; }
     view::ReplayStop* replayStop() { return replayStop_.get(); }
 
+protected:
+    // The close box of the main window during a game watched again: the rest plays at
+    // once, then the program ends as the close box always ends it.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void scheduleRefresh();
 
@@ -62,6 +68,7 @@ private:
     std::unique_ptr<view::StoryView> story_;
     std::unique_ptr<view::ReplayStop> replayStop_;
     bool refreshScheduled_ = false;
+    bool exitAfterReplay_ = false;
     std::function<void()> onRefreshed_;
     // Set while this object lives: a refresh queued from the event loop checks it.
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);

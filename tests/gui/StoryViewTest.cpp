@@ -97,5 +97,21 @@ TEST(StoryViewTest, WatchTheGameAgainThenStop) {
     EXPECT_EQ(gui.delay.depth(), 0);
 }
 
+// The close box during a game watched again ends the program, as it always does, once the
+// rest of the game has been played at once.
+TEST(StoryViewTest, TheCloseBoxDuringAReplayEndsTheProgram) {
+    GuiRun gui(std::make_unique<SeededRandom>(9), 4);
+    gui.delay.pacing().setPace(Pace::Instant);
+    app::seatComputers(gui.program->dispatch(), gui.run, 3);
+    gui.settle();
+    ASSERT_TRUE(gui.run.gameEnd().isVisible());
+    const std::uint64_t end = sim::stateHash(gui.run.board());
+    QTimer::singleShot(150, [&] { gui.program->mainView().close(); });
+    clickOn(gui.program->storyView().watchAgain());
+    EXPECT_TRUE(gui.exited);
+    EXPECT_FALSE(gui.run.isReplaying());
+    EXPECT_EQ(sim::stateHash(gui.run.board()), end);
+}
+
 }  // namespace
 }  // namespace gw::test
