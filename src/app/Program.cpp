@@ -1,6 +1,9 @@
 #include "app/Program.h"
 
+#include <QEvent>
+#include <QPushButton>
 #include <QTimer>
+#include <utility>
 
 #include "app/QtDelay.h"
 #include "windows/CellFaces.h"
@@ -19,9 +22,24 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
     tax_ = std::make_unique<view::TaxCardView>(dispatch_, w.taxCard);
     end_ = std::make_unique<view::GameEndView>(dispatch_, run.gameEnd());
     about_ = std::make_unique<view::AboutView>(dispatch_, run.about());
-    story_ = std::make_unique<view::StoryView>(run.story(), run.gameEnd());
+    story_ = std::make_unique<view::StoryView>(dispatch_, run);
     if (delay) {
         paceMenu_ = std::make_unique<view::PaceMenu>(*main_, delay->pacing());
+        replayStop_ = std::make_unique<view::ReplayStop>(*main_, run, delay->pacing());
+        // A game watched again goes at its own pace; the chosen one comes back after.
+        run.setOnReplay([this, delay, chosen = Pace::Designed](bool on) mutable {
+            if (on) {
+                chosen = delay->pacing().pace();
+                delay->pacing().setPace(kReplayPace);
+            } else {
+                delay->pacing().setPace(chosen);
+                if (std::exchange(exitAfterReplay_, false)) {
+                    dispatch_.click([this] { run_.mainWindow().Exit_Click(); });
+                }
+            }
+            scheduleRefresh();
+        });
+        main_->installEventFilter(this);
         dispatch_.setAfterClick([this, delay] {
             if (run_.isWindingDown()) delay->cutShort();
         });
@@ -31,6 +49,17 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
 
 Program::~Program() {
     run_.setOnChanged({});
+    run_.setOnReplay({});
+}
+
+bool Program::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != main_.get() || event->type() != QEvent::Close || !run_.isReplaying()) {
+        return false;
+    }
+    event->ignore();
+    exitAfterReplay_ = true;
+    replayStop_->button().click();
+    return true;
 }
 
 void Program::scheduleRefresh() {
@@ -54,6 +83,7 @@ void Program::refreshAll() {
     start_->refresh();
     main_->refresh();
     if (paceMenu_) paceMenu_->refresh();
+    if (replayStop_) replayStop_->refresh();
     if (onRefreshed_) onRefreshed_();
 }
 

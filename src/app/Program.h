@@ -3,12 +3,14 @@
 // the waits still running.
 #pragma once
 
+#include <QObject>
 #include <memory>
 
 #include "view/CardViews.h"
 #include "view/Dispatch.h"
 #include "view/MainWindowView.h"
 #include "view/PaceMenu.h"
+#include "view/ReplayStop.h"
 #include "view/StartEndViews.h"
 #include "view/StoryView.h"
 
@@ -20,7 +22,7 @@ namespace gw::app {
 
 class QtDelay;
 
-class Program {
+class Program : public QObject {
 public:
     Program(GameRun& run, QtDelay* delay);
     ~Program();
@@ -42,6 +44,12 @@ public:
     // Game > Pace; there is none without a real delay.
     view::PaceMenu* paceMenu() { return paceMenu_.get(); }
     view::StoryView& storyView() { return *story_; }
+    view::ReplayStop* replayStop() { return replayStop_.get(); }
+
+protected:
+    // The close box of the main window during a game watched again: the rest plays at
+    // once, then the program ends as the close box always ends it.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void scheduleRefresh();
@@ -58,7 +66,9 @@ private:
     std::unique_ptr<view::AboutView> about_;
     std::unique_ptr<view::PaceMenu> paceMenu_;
     std::unique_ptr<view::StoryView> story_;
+    std::unique_ptr<view::ReplayStop> replayStop_;
     bool refreshScheduled_ = false;
+    bool exitAfterReplay_ = false;
     std::function<void()> onRefreshed_;
     // Set while this object lives: a refresh queued from the event loop checks it.
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);

@@ -1,34 +1,39 @@
 // "The story of the game": a window beside Game Over with the chart of every player's worth
-// after each round and the game's figures. It shows while the end window does.
+// after each round, the game's figures, and "Watch the game again". It shows while the end
+// window does.
 #pragma once
 
 #include <QWidget>
 #include <vector>
 
 #include "art/StoryChart.h"
+#include "view/Dispatch.h"
+
+class QPushButton;
 
 namespace gw {
-class GameEnd;
-class GameStory;
-}  // namespace gw
+class GameRun;
+}
 
 namespace gw::view {
 
 class StoryView final : public QWidget {
     Q_OBJECT
 public:
-    StoryView(const GameStory& story, const GameEnd& end);
+    StoryView(Dispatch& dispatch, GameRun& run);
 
     void refresh();
     // The chart's lines as the story gives them.
     std::vector<art::ChartLine> chartLines() const;
+    QPushButton& watchAgain() const { return *watchAgain_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    const GameStory& story_;
-    const GameEnd& end_;
+    Dispatch& dispatch_;
+    GameRun& run_;
+    QPushButton* watchAgain_;
 };
 
 }  // namespace gw::view

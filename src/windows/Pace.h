@@ -14,6 +14,8 @@ namespace gw {
 enum class Pace { Designed, Fast, Instant };
 
 constexpr std::array<Pace, 3> kPaces = {Pace::Designed, Pace::Fast, Pace::Instant};
+// A game watched again goes at this pace; its Stop plays the rest at Instant.
+constexpr Pace kReplayPace = Pace::Fast;
 
 // The menu's caption: "As designed", "Fast", "Instant".
 std::string_view paceCaption(Pace pace);

@@ -5,8 +5,11 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QPushButton>
+#include <QTimer>
 
 #include "GuiRun.h"
+#include "Signature.h"
 #include "app/Autoplay.h"
 #include "game/Board.h"
 #include "windows/GameStory.h"
@@ -56,7 +59,58 @@ TEST(StoryViewTest, ShowsWithGameOverAndDrawsEveryPlayersWorth) {
     EXPECT_GE(places.top, *std::max_element(lines[0].worth.begin(), lines[0].worth.end()));
 
     savePictures(view, "story");
-    gui.run.gameEnd().Command2_Click();
+}
+
+// "Watch the game again" replays on the main window at Fast, with a Stop over the board;
+// Stop plays the rest at once and Game Over comes back on the same end.
+TEST(StoryViewTest, WatchTheGameAgainThenStop) {
+    GuiRun gui(std::make_unique<SeededRandom>(9), 4);
+    gui.delay.pacing().setPace(Pace::Instant);
+    app::seatComputers(gui.program->dispatch(), gui.run, 3);
+    gui.settle();
+    ASSERT_TRUE(gui.run.gameEnd().isVisible());
+    const std::uint64_t end = sim::stateHash(gui.run.board());
+    view::StoryView& story = gui.program->storyView();
+    ASSERT_TRUE(story.watchAgain().isEnabled());
+
+    bool sawReplay = false;
+    Pace paceSeen = Pace::Instant;
+    QTimer::singleShot(150, [&] {
+        gui.program->refreshAll();
+        QPushButton& stop = gui.program->replayStop()->button();
+        sawReplay = gui.run.isReplaying() && stop.isVisible() &&
+                    gui.program->mainView().isVisible() && !story.isVisible();
+        paceSeen = gui.delay.pacing().pace();
+        savePictures(gui.program->mainView(), "replay");
+        clickOn(stop);
+    });
+    clickOn(story.watchAgain());
+    gui.settle();
+    EXPECT_TRUE(sawReplay);
+    EXPECT_EQ(paceSeen, Pace::Fast);
+    EXPECT_FALSE(gui.run.isReplaying());
+    EXPECT_FALSE(gui.program->replayStop()->button().isVisible());
+    EXPECT_TRUE(gui.run.gameEnd().isVisible());
+    EXPECT_TRUE(story.isVisible());
+    EXPECT_EQ(sim::stateHash(gui.run.board()), end);
+    EXPECT_EQ(gui.delay.pacing().pace(), Pace::Instant);  // the chosen pace is back
+    EXPECT_EQ(gui.delay.depth(), 0);
+}
+
+// The close box during a game watched again ends the program, as it always does, once the
+// rest of the game has been played at once.
+TEST(StoryViewTest, TheCloseBoxDuringAReplayEndsTheProgram) {
+    GuiRun gui(std::make_unique<SeededRandom>(9), 4);
+    gui.delay.pacing().setPace(Pace::Instant);
+    app::seatComputers(gui.program->dispatch(), gui.run, 3);
+    gui.settle();
+    ASSERT_TRUE(gui.run.gameEnd().isVisible());
+    const std::uint64_t end = sim::stateHash(gui.run.board());
+    QTimer::singleShot(150, [&] { gui.program->mainView().close(); });
+    clickOn(gui.program->storyView().watchAgain());
+    EXPECT_TRUE(gui.exited);
+    EXPECT_FALSE(gui.run.isReplaying());
+    EXPECT_EQ(sim::stateHash(gui.run.board()), end);
 }
 
 }  // namespace
