@@ -43,6 +43,7 @@ protected:
         ASSERT_EQ(seat(0).getPosition(), 38);
         click([&] { forget ? card().forget_Click() : card().buy_Click(); });
         EXPECT_EQ(board().propertyAt(34)->getProp().getOwners(), nullptr);
+        EXPECT_EQ(seat(0).getBalance(), before);  // nothing bought, the tax not yet paid
         EXPECT_FALSE(seat(0).getDidAction());
         endTurn();
         EXPECT_EQ(main().Label2(), "Ann");  // the tax holds the turn
