@@ -1,6 +1,8 @@
 #include "app/Program.h"
 
+#include <QScreen>
 #include <QTimer>
+#include <array>
 
 #include "app/QtDelay.h"
 #include "windows/GameRun.h"
@@ -18,6 +20,7 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
     tax_ = std::make_unique<view::TaxCardView>(dispatch_, w.taxCard);
     end_ = std::make_unique<view::GameEndView>(dispatch_, run.gameEnd());
     about_ = std::make_unique<view::AboutView>(dispatch_, run.about());
+    placeWindows();
     if (delay) {
         dispatch_.setAfterClick([this, delay] {
             if (run_.isWindingDown()) delay->cutShort();
@@ -28,6 +31,27 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
 
 Program::~Program() {
     run_.setOnChanged({});
+}
+
+// The cards and About belong to the main window: no entry of their own in the task bar,
+// always above the board, and placed where they leave the turn buttons and the message
+// line in view. The set-up and end windows, shown while the main window is hidden, open in
+// the middle of the screen.
+void Program::placeWindows() {
+    const std::array<view::WindowView*, 5> owned = {cellInfo_.get(), trading_.get(), jfl_.get(),
+                                                    tax_.get(), about_.get()};
+    for (view::WindowView* window : owned) {
+        window->setParent(main_.get(), Qt::Dialog);
+        window->setPlacer(
+            [this](QSize frame) { return view::cardTopLeft(main_->cardRoom(), frame); });
+    }
+    for (view::WindowView* window : std::array<view::WindowView*, 2>{start_.get(), end_.get()}) {
+        window->setPlacer([window](QSize frame) {
+            const QScreen* screen = window->screen();
+            return screen ? view::centredTopLeft(screen->availableGeometry(), frame)
+                          : window->pos();
+        });
+    }
 }
 
 void Program::scheduleRefresh() {

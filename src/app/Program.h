@@ -40,6 +40,7 @@ public:
 
 private:
     void scheduleRefresh();
+    void placeWindows();
 
     GameRun& run_;
     view::Dispatch dispatch_;

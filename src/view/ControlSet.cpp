@@ -6,28 +6,10 @@
 #include <algorithm>
 
 #include "view/CaptionButton.h"
+#include "view/FitLabel.h"
 #include "view/Style.h"
 
 namespace gw::view {
-
-namespace {
-
-constexpr int kSmallestPx = 8;
-
-// A one-line label whose text is wider than its box gets a smaller font, down to 8 px.
-void fitOneLine(QLabel& label) {
-    if (label.wordWrap()) return;
-    QFont f = label.font();
-    int px = label.property("basePx").toInt();
-    f.setPixelSize(px);
-    while (px > kSmallestPx &&
-           QFontMetrics(f).horizontalAdvance(label.text()) > label.width() - 2) {
-        f.setPixelSize(--px);
-    }
-    label.setFont(f);
-}
-
-}  // namespace
 
 QString qs(const std::string& text) {
     return QString::fromStdString(text);
@@ -44,9 +26,8 @@ ControlSet::ControlSet(QWidget& parent, std::span<const Place> places) {
                 break;
             }
             case ControlKind::Label: {
-                auto* label = new QLabel(&parent);
+                auto* label = new FitLabel(&parent, place.fontPx, place.wrap);
                 label->setAlignment(place.align);
-                label->setWordWrap(place.wrap);
                 label->setAttribute(Qt::WA_TranslucentBackground);
                 label->setProperty("role", "printed");
                 w = label;
@@ -78,16 +59,22 @@ void ControlSet::apply(std::string_view name, const Control& control) {
     const QString caption = qs(control.caption);
     if (auto* b = qobject_cast<QAbstractButton*>(w)) {
         if (b->text() != caption) b->setText(caption);
-    } else if (auto* l = qobject_cast<QLabel*>(w)) {
-        if (l->text() != caption) {
-            l->setText(caption);
-            fitOneLine(*l);
-        }
+    } else if (auto* l = qobject_cast<FitLabel*>(w)) {
+        if (l->text() != caption) l->setCaption(caption);
     } else if (auto* e = qobject_cast<QLineEdit*>(w)) {
         if (e->text() != caption) e->setText(caption);
     }
     if (w->isEnabled() != control.enabled) w->setEnabled(control.enabled);
     if (w->isVisibleTo(w->parentWidget()) != control.visible) w->setVisible(control.visible);
+}
+
+void ControlSet::placeInRooms(std::span<const Place> rooms) {
+    for (const Place& room : rooms) {
+        QWidget* w = widget(room.name);
+        if (!w) continue;
+        w->setGeometry(room.rect());
+        if (auto* label = qobject_cast<FitLabel*>(w)) label->setMayWrap(room.wrap);
+    }
 }
 
 QWidget* ControlSet::widget(std::string_view name) const {

@@ -30,6 +30,9 @@ public:
     }
     void apply(std::string_view name, const Control& control);
 
+    // Moves texts to the larger boxes they may grow into, and lets them wrap there.
+    void placeInRooms(std::span<const Place> rooms);
+
     QWidget* widget(std::string_view name) const;
     QAbstractButton* button(std::string_view name) const;
     QLabel* label(std::string_view name) const;

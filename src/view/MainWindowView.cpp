@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QScreen>
 
 #include "view/Places.h"
 #include "windows/MainWindow.h"
@@ -74,6 +75,7 @@ MainWindowView::MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints
     });
 
     controls_ = std::make_unique<ControlSet>(*client_, mainWindowPlaces());
+    controls_->placeInRooms(mainWindowTextRooms());
     // Plain functions rather than member pointers: the sanitizer build of the compiler we use
     // misreads a member-pointer call made inside a lambda.
     using Handler = void (*)(MainWindow&);
@@ -114,6 +116,23 @@ void MainWindowView::buildMenus() {
 
 QAction& MainWindowView::action(std::string_view name) const {
     return *actions_.find(name)->second;
+}
+
+CardRoom MainWindowView::cardRoom() const {
+    const auto global = [](const QWidget& w) {
+        return QRect(w.mapToGlobal(QPoint(0, 0)), w.size());
+    };
+    CardRoom room;
+    const QScreen* shown = screen();
+    room.screen = shown ? shown->availableGeometry() : QRect();
+    room.mainFrame = frameGeometry();
+    room.board = global(*board_);
+    for (const char* name : {"rollDice", "declareBank", "endTurn", "pay50Rent", "useJFLCard"}) {
+        if (const QWidget* button = controls_->widget(name))
+            room.keepClear.push_back(global(*button));
+    }
+    room.keepClear.push_back(global(*panels_[1]));
+    return room;
 }
 
 void MainWindowView::refresh() {

@@ -7,6 +7,7 @@
 #include <array>
 
 #include "view/BoardWidget.h"
+#include "view/CardPlacement.h"
 #include "view/ControlSet.h"
 #include "view/Dispatch.h"
 #include "view/PictureWidget.h"
@@ -24,6 +25,8 @@ public:
     const ControlSet& controls() const { return *controls_; }
     BoardWidget& board() { return *board_; }
     QAction& action(std::string_view name) const;
+    // Where on the screen a card may open: the board, and what it must leave clear.
+    CardRoom cardRoom() const;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
