@@ -67,17 +67,38 @@ void BoardWidget::paintEvent(QPaintEvent*) {
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
 
-    // From the lowest to the uppermost, as the board's pictures lie on one another.
+    // A mortgaged cell is greyed under everything that stands on it; its name still reads.
+    for (int c = 0; c < kCells; ++c) {
+        if (model_.mortgageShown(c)) p.fillRect(cellRect(c), QColor(0x5A, 0x56, 0x50, 70));
+    }
+    // From the lowest to the uppermost, as the board's pictures lie on one another; tokens
+    // that share a cell fan out.
+    std::array<int, kCells> sharing{};
+    for (int id = 0; id < kMaxPlayers; ++id) {
+        const MainWindow::BigToken& token = model_.bigToken(id);
+        if (token.visible && token.cell >= 0 && token.cell < kCells) {
+            ++sharing[static_cast<std::size_t>(token.cell)];
+        }
+    }
+    std::array<int, kCells> placed{};
+    std::array<QRectF, kMaxPlayers> tokenRects{};
+    for (int id = 0; id < kMaxPlayers; ++id) {
+        const MainWindow::BigToken& token = model_.bigToken(id);
+        if (!token.visible || token.cell < 0 || token.cell >= kCells) continue;
+        const auto c = static_cast<std::size_t>(token.cell);
+        tokenRects[static_cast<std::size_t>(id)] =
+            bigTokenRect(id, token.cell, placed[c]++, sharing[c]);
+    }
     for (int id = kMaxPlayers - 1; id >= 0; --id) {
         const MainWindow::BigToken& token = model_.bigToken(id);
         const int picture = model_.panel(id).token;
-        if (token.visible && picture >= 0) {
-            drawSprite(p, bigTokenRect(id, token.cell), Sprite::Token, picture);
+        if (token.visible && picture >= 0 && !tokenRects[static_cast<std::size_t>(id)].isNull()) {
+            drawSprite(p, tokenRects[static_cast<std::size_t>(id)], Sprite::Token, picture);
         }
     }
     for (int c = 0; c < kCells; ++c) {
         const int owner = model_.ownerMark(c);
-        if (owner >= 0) drawSprite(p, ownerRect(c), Sprite::Token, owner);
+        if (owner >= 0) drawSprite(p, ownerRect(c), Sprite::Owner, owner);
     }
     if (model_.dieFace1() > 0) drawSprite(p, dieSquare(1), Sprite::Die, model_.dieFace1());
     if (model_.dieFace2() > 0) drawSprite(p, dieSquare(2), Sprite::Die, model_.dieFace2());
@@ -122,6 +143,9 @@ void BoardWidget::drawSprite(QPainter& p, const QRectF& rect, Sprite kind, int i
             switch (kind) {
                 case Sprite::Token:
                     paintToken(q, place, index);
+                    break;
+                case Sprite::Owner:
+                    paintOwnerTab(q, place, index);
                     break;
                 case Sprite::Die:
                     paintDie(q, place, index);

@@ -33,7 +33,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    enum class Sprite { Token, Die, Hotel, Mortgage };
+    enum class Sprite { Token, Owner, Die, Hotel, Mortgage };
     // Kind, index, the pixel ratio, then the size and the offset within a device pixel, in
     // hundredths of a device pixel.
     using SpriteKey = std::tuple<Sprite, int, int, int, int, int, int>;

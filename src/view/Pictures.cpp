@@ -102,6 +102,10 @@ void paintDie(QPainter& p, const QRectF& rect, int face) {
     art::paintDieFace(p, rect, face);
 }
 
+void paintOwnerTab(QPainter& p, const QRectF& rect, int token) {
+    art::paintOwnerTab(p, rect, token);
+}
+
 void paintHotel(QPainter& p, const QRectF& rect, bool) {
     art::paintHotel(p, rect);
 }

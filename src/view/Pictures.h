@@ -29,6 +29,8 @@ CellPrints cellPrints(const Board& board);
 void paintCell(QPainter& p, const QRectF& rect, int cellId, const CellPrint& print);
 void paintCentre(QPainter& p, const QRectF& rect);
 void paintToken(QPainter& p, const QRectF& rect, int token);
+// The owner's tab on a cell's band: the token on a disc ringed in its colour.
+void paintOwnerTab(QPainter& p, const QRectF& rect, int token);
 void paintDie(QPainter& p, const QRectF& rect, int face);
 // A hotel or a mortgage stamp; side is true on the left and right columns of the board.
 void paintHotel(QPainter& p, const QRectF& rect, bool side);
