@@ -5,11 +5,9 @@
 #include <gtest/gtest.h>
 
 #include "GuiRun.h"
-#include "cells/PropertyCell.h"
-#include "cells/Street.h"
-#include "game/Board.h"
-#include "players/player.h"
+#include "WorstCase.h"
 #include "view/BoardLayout.h"
+#include "windows/MainWindow.h"
 
 namespace gw::test {
 namespace {
@@ -62,40 +60,25 @@ TEST(CrowdedBoard, MarksAndTokensLeaveEveryNameClearAtEveryCell) {
     }
 }
 
-TEST(CrowdedBoard, IsWrittenAtItsBusiest) {
-    GuiRun gui(std::make_unique<SeededRandom>(8));
-    GameStart& start = gui.run.gameStart();
-    for (int seat = 0; seat < kMaxPlayers; ++seat) {
-        start.NickName_Change("WWWWWWWWWWWWWWWWWWW" +
-                              std::string(1, static_cast<char>('M' + seat)));
-        start.Token_Click(seat * 2);
-        start.Command1_Click();
+// The scenario of the worst-case sheet is as crowded as it says, and is written.
+TEST(CrowdedBoard, TheWorstCaseHasEveryMarkAndSixTokensOnACell) {
+    worst::WorstCase crowded;
+    crowded.seatSix();
+    crowded.crowdTheBoard();
+    crowded.standAllOn(16);
+    const MainWindow& main = crowded.run().mainWindow();
+    int owned = 0, mortgaged = 0, fullStreets = 0, onSixteen = 0;
+    for (int c = 0; c < kCells; ++c) {
+        owned += main.ownerMark(c) >= 0 ? 1 : 0;
+        mortgaged += main.mortgageShown(c) ? 1 : 0;
+        fullStreets += main.hotelsShown(c) == 4 ? 1 : 0;
     }
-    start.Command2_Click();
-    Board& board = gui.run.board();
-    int n = 0;
-    for (Integer c = 0; c < kCells; ++c) {
-        PropertyCell* cell = board.propertyAt(c);
-        if (!cell) continue;
-        player& owner = *board.getPlayer(static_cast<Integer>(n % kMaxPlayers));
-        owner.newlyOwn(*cell);
-        if (n % 3 == 1) {
-            owner.mortgageProp(c);
-        } else if (n % 3 == 2) {
-            if (auto* street = dynamic_cast<Street*>(cell)) {
-                for (int h = 0; h < 4; ++h) street->addHotel();
-                gui.run.mainWindow().showHotel(c);
-            }
-        }
-        ++n;
-    }
-    for (Integer id = 0; id < kMaxPlayers; ++id) gui.run.mainWindow().MoveToken(id, 16, 16);
-    gui.settle();
-    savePictures(gui.program->mainView(), "crowded-side");
-    for (Integer id = 0; id < kMaxPlayers; ++id) gui.run.mainWindow().MoveToken(id, 20, 20);
-    gui.settle();
-    savePictures(gui.program->mainView(), "crowded-corner");
-    EXPECT_GT(n, 20);
+    for (int id = 0; id < kMaxPlayers; ++id) onSixteen += main.bigToken(id).cell == 16 ? 1 : 0;
+    EXPECT_EQ(owned, 28);
+    EXPECT_EQ(mortgaged, 9);
+    EXPECT_GE(fullStreets, 6);
+    EXPECT_EQ(onSixteen, kMaxPlayers);
+    savePictures(crowded.program().mainView(), "crowded-side");
 }
 
 }  // namespace
