@@ -45,24 +45,34 @@ BoardWidget::BoardWidget(QWidget* parent, const MainWindow& model, CellPrints pr
     setCursor(Qt::PointingHandCursor);
 }
 
-// The centre and the cells change only with the pixel ratio of what is painted on.
+// The centre and the cells change only with the pixel ratio of what is painted on (the
+// screen's ratio times the board's scale).
 const QPixmap& BoardWidget::background(qreal dpr) {
     if (background_.isNull() || !qFuzzyCompare(background_.devicePixelRatio(), dpr)) {
-        background_ = art::renderPicture(size(), dpr, [this](QPainter& p, const QRectF& r) {
-            p.fillRect(r, QColor(0x1F, 0x5C, 0x5A));
-            paintCentre(p, centreRect());
-            for (int c : kPaintOrder) {
-                if (const auto& print = prints_[static_cast<std::size_t>(c)]) {
-                    paintCell(p, cellRect(c), c, *print);
+        background_ = art::renderPicture(
+            QSize(kBoardWidth, kBoardHeight), dpr, [this](QPainter& p, const QRectF& r) {
+                p.fillRect(r, QColor(0x1F, 0x5C, 0x5A));
+                paintCentre(p, centreRect());
+                for (int c : kPaintOrder) {
+                    if (const auto& print = prints_[static_cast<std::size_t>(c)]) {
+                        paintCell(p, cellRect(c), c, *print);
+                    }
                 }
-            }
-        });
+            });
     }
     return background_;
 }
 
+void BoardWidget::setScale(qreal scale) {
+    scale_ = scale;
+    setFixedSize(qRound(kBoardWidth * scale), qRound(kBoardHeight * scale));
+    update();
+}
+
+// The board is painted in its design's pixels, scaled: pictures are made at the pixels shown.
 void BoardWidget::paintEvent(QPaintEvent*) {
     QPainter p(this);
+    p.scale(scale_, scale_);
     p.drawPixmap(0, 0, background(pixelRatio(p)));
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -172,7 +182,7 @@ int BoardWidget::cellAt(QPointF point) const {
 
 void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
-    const int cell = cellAt(event->position());
+    const int cell = cellAt(event->position() / scale_);
     if (cell >= 0) emit cellClicked(cell);
 }
 

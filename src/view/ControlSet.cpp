@@ -8,6 +8,7 @@
 #include "view/CaptionButton.h"
 #include "view/FitLabel.h"
 #include "view/Style.h"
+#include "view/TextFit.h"
 
 namespace gw::view {
 
@@ -45,6 +46,7 @@ ControlSet::ControlSet(QWidget& parent, std::span<const Place> places) {
         w->setFont(controlFont(place.kind, place.fontPx));
         w->setProperty("basePx", place.fontPx);
         widgets_.emplace(std::string(place.name), w);
+        designRects_[std::string(place.name)] = place.rect();
     }
 }
 
@@ -73,7 +75,24 @@ void ControlSet::placeInRooms(std::span<const Place> rooms) {
         QWidget* w = widget(room.name);
         if (!w) continue;
         w->setGeometry(room.rect());
+        designRects_[std::string(room.name)] = room.rect();
         if (auto* label = qobject_cast<FitLabel*>(w)) label->setMayWrap(room.wrap);
+    }
+}
+
+void ControlSet::setScale(qreal scale) {
+    const auto scaled = [scale](int v) { return qRound(v * scale); };
+    for (const auto& [name, w] : widgets_) {
+        const QRect r = designRects_[name];
+        w->setGeometry(scaled(r.x()), scaled(r.y()), scaled(r.width()), scaled(r.height()));
+        const int px = std::max(1, scaled(w->property("basePx").toInt()));
+        if (auto* label = qobject_cast<FitLabel*>(w)) {
+            label->setSizes(px, std::max(1, scaled(kTextFloorPx)));
+        } else {
+            QFont f = w->font();
+            f.setPixelSize(px);
+            w->setFont(f);
+        }
     }
 }
 

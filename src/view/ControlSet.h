@@ -32,6 +32,8 @@ public:
 
     // Moves texts to the larger boxes they may grow into, and lets them wrap there.
     void placeInRooms(std::span<const Place> rooms);
+    // Places every control and sizes its type at this multiple of the design.
+    void setScale(qreal scale);
 
     QWidget* widget(std::string_view name) const;
     QAbstractButton* button(std::string_view name) const;
@@ -42,6 +44,7 @@ public:
 
 private:
     std::map<std::string, QWidget*, std::less<>> widgets_;
+    std::map<std::string, QRect, std::less<>> designRects_;
     std::vector<std::string> unplaced_;
 };
 

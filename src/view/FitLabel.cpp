@@ -13,7 +13,8 @@ void FitLabel::setCaption(const QString& caption) {
 }
 
 void FitLabel::refit() {
-    fit_ = fitText(font(), text(), contentsRect().size(), alignment(), largestPx_, mayWrap_);
+    fit_ =
+        fitText(font(), text(), contentsRect().size(), alignment(), largestPx_, mayWrap_, floorPx_);
     QFont f = font();
     f.setPixelSize(fit_.pixelSize);
     setFont(f);

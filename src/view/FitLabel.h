@@ -17,6 +17,12 @@ public:
     void setCaption(const QString& caption);
     // Chooses them again, after the box has changed.
     void refit();
+    // The type's largest size and its floor, as the window is scaled.
+    void setSizes(int largestPx, int floorPx) {
+        largestPx_ = largestPx;
+        floorPx_ = floorPx;
+        refit();
+    }
     void setMayWrap(bool mayWrap) {
         mayWrap_ = mayWrap;
         refit();
@@ -30,6 +36,7 @@ protected:
 private:
     int largestPx_;
     bool mayWrap_;
+    int floorPx_ = kTextFloorPx;
     TextFit fit_;
 };
 

@@ -20,11 +20,11 @@ bool fitsAtEveryScale(const QFont& font, const QString& text, QSize box, int fla
 }
 
 TextFit fitText(QFont font, const QString& text, QSize box, Qt::Alignment align, int largestPx,
-                bool mayWrap) {
+                bool mayWrap, int floorPx) {
     const int aligned = static_cast<int>(align);
     TextFit fit;
     const auto tryAll = [&](std::initializer_list<int> ways) {
-        for (int px = largestPx; px >= kTextFloorPx; --px) {
+        for (int px = largestPx; px >= floorPx; --px) {
             font.setPixelSize(px);
             for (int flags : ways) {
                 fit = {px, flags};

@@ -26,6 +26,6 @@ bool fitsAtEveryScale(const QFont& font, const QString& text, QSize box, int fla
 // The setting that fits, as above; the floor's last try if none does. A one-line box
 // (mayWrap false) only shrinks.
 TextFit fitText(QFont font, const QString& text, QSize box, Qt::Alignment align, int largestPx,
-                bool mayWrap);
+                bool mayWrap, int floorPx = kTextFloorPx);
 
 }  // namespace gw::view
