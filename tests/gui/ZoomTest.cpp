@@ -80,6 +80,7 @@ TEST_P(Zoom, ClicksAtScaledPlacesReachRollDiceACardButtonAndACell) {
     EXPECT_EQ(hit, &main.board());
     EXPECT_TRUE(gui.run.windows().cellInfo.isVisible());
     EXPECT_EQ(gui.run.windows().cellInfo.cardId(), 39);
+    savePictures(main, "zoom-" + std::to_string(GetParam()));
 }
 
 INSTANTIATE_TEST_SUITE_P(AtTwoSizes, Zoom, ::testing::Values(150, 75));
