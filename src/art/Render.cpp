@@ -11,10 +11,11 @@ QImage renderImage(QSize logical, qreal dpr, const PaintFunction& paint) {
                        static_cast<int>(std::ceil(logical.height() * dpr)));
     QImage image(device, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
-    // The scale is set by hand: a painter leaves out a ratio below 1 (a board shown smaller
-    // than its design).
+    // A painter leaves out a ratio below 1 (a board shown smaller than its design): that
+    // scale is set by hand.
+    if (dpr >= 1) image.setDevicePixelRatio(dpr);
     QPainter p(&image);
-    p.scale(dpr, dpr);
+    if (dpr < 1) p.scale(dpr, dpr);
     p.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                      QPainter::SmoothPixmapTransform);
     paint(p, QRectF(QPointF(0, 0), QSizeF(logical)));
