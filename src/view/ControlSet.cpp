@@ -76,7 +76,11 @@ void ControlSet::placeInRooms(std::span<const Place> rooms) {
         if (!w) continue;
         w->setGeometry(room.rect());
         designRects_[std::string(room.name)] = room.rect();
-        if (auto* label = qobject_cast<FitLabel*>(w)) label->setMayWrap(room.wrap);
+        w->setProperty("basePx", room.fontPx);
+        if (auto* label = qobject_cast<FitLabel*>(w)) {
+            label->setMayWrap(room.wrap);
+            label->setSizes(room.fontPx, kTextFloorPx);
+        }
     }
 }
 

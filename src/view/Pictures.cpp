@@ -172,8 +172,8 @@ void paintTaxCard(QPainter& p, const QRectF& rect, TaxPicture picture) {
         p, rect, picture == TaxPicture::LuxuryTax ? art::TaxKind::Luxury : art::TaxKind::Income);
 }
 
-void paintEndBackground(QPainter& p, const QRectF& rect) {
-    art::paintEndBackground(p, rect);
+void paintEndBackground(QPainter& p, const QRectF& rect, const QString& closingLine) {
+    art::paintEndBackground(p, rect, closingLine);
 }
 
 void paintAboutBanner(QPainter& p, const QRectF& rect) {

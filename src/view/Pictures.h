@@ -53,7 +53,7 @@ void paintJflCard(QPainter& p, const QRectF& rect);
 void paintTaxCard(QPainter& p, const QRectF& rect, TaxPicture picture);
 
 // The end and About windows
-void paintEndBackground(QPainter& p, const QRectF& rect);
+void paintEndBackground(QPainter& p, const QRectF& rect, const QString& closingLine);
 void paintAboutBanner(QPainter& p, const QRectF& rect);
 // The About window's page: cream stock within the teal rim of the panels.
 void paintAboutBackground(QPainter& p, const QRectF& rect);

@@ -136,6 +136,10 @@ constexpr std::array kGameEnd = {
     row("Command2", K::Button, 6240, 5040, 2535, 495, kCentre, 14),
 };
 
+constexpr std::array kGameEndTextRooms = {
+    row("Label1", K::Label, 945, 1560, 7725, 570, kCentre, 19, true),
+};
+
 constexpr int kHeadingPx = 17;
 constexpr int kNamePx = 14;
 constexpr std::array kAbout = {
@@ -183,6 +187,9 @@ std::span<const Place> taxCardPlaces() {
 }
 std::span<const Place> gameEndPlaces() {
     return kGameEnd;
+}
+std::span<const Place> gameEndTextRooms() {
+    return kGameEndTextRooms;
 }
 std::span<const Place> aboutPlaces() {
     return kAbout;

@@ -42,5 +42,7 @@ std::span<const Place> aboutPlaces();
 // room beside the token, a player's name the height of its row.
 std::span<const Place> mainWindowTextRooms();
 std::span<const Place> tradingCardTextRooms();
+// The winner's line fills the ribbon across the end window.
+std::span<const Place> gameEndTextRooms();
 
 }  // namespace gw::view

@@ -140,6 +140,7 @@ TEST_F(TextsWhole, TheEndWindowNamesAWinnerOfTwentyWideLettersWhole) {
     gui.run.gameEnd().Form_Load();
     gui.settle();
     expectWhole(program().endView(), "end");
+    EXPECT_EQ(gui.run.gameEnd().closingLine(), "The city is yours.") << "a human has won";
     savePictures(program().endView(), "worst-end");
 }
 
