@@ -57,6 +57,14 @@ add_custom_command(
   VERBATIM)
 add_custom_target(gildenway_icon ALL DEPENDS ${GILDENWAY_ICON_FILES})
 
+# The worst-case sheet: the real windows at their most crowded, at 1x and 2x. Its scenario
+# is shared with the tests of whole texts and clear names.
+add_library(gildenway_worst STATIC ${CMAKE_SOURCE_DIR}/tools/artsheet/worst/WorstCase.cpp)
+target_include_directories(gildenway_worst PUBLIC ${CMAKE_SOURCE_DIR}/tools/artsheet/worst)
+target_link_libraries(gildenway_worst PUBLIC gildenway_view)
+add_executable(gildenway-artsheet-worst ${CMAKE_SOURCE_DIR}/tools/artsheet/worst/main.cpp)
+target_link_libraries(gildenway-artsheet-worst PRIVATE gildenway_worst)
+
 install(TARGETS gildenway RUNTIME DESTINATION ${GILDENWAY_INSTALL_BINDIR})
 # The desktop entry and the AppStream metadata share the application's id.
 set(GILDENWAY_APP_ID io.github.gildenway.Gildenway)
@@ -89,8 +97,8 @@ if(BUILD_TESTING)
   include(GoogleTest)
   file(GLOB GUI_TEST_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/gui/*.cpp)
   add_executable(gildenway_gui_tests ${GUI_TEST_SOURCES})
-  target_link_libraries(gildenway_gui_tests PRIVATE gildenway_view gildenway_monkey Qt6::Test
-                                                    Qt6::Svg GTest::gtest)
+  target_link_libraries(gildenway_gui_tests PRIVATE gildenway_view gildenway_worst
+                                                    gildenway_monkey Qt6::Test Qt6::Svg GTest::gtest)
   target_compile_definitions(gildenway_gui_tests PRIVATE
                              GILDENWAY_ICON_THEME="${GILDENWAY_ICON_THEME}")
   add_dependencies(gildenway_gui_tests gildenway_icon)

@@ -47,6 +47,7 @@ TEST_F(WholeRun, FourComputersPlayToTheEndThroughTheSetUpWindowAndANewGameIsAsAt
     EXPECT_EQ(run->gameEnd().Label1().caption,
               winner->getName() + ", the richest person in Kestrovia!");
     EXPECT_EQ(run->gameEnd().Image2(), std::stoi(winner->getTokenName()));
+    EXPECT_EQ(run->gameEnd().closingLine(), "The machines hold the city.");
 
     click([&] { main().Mute_Click(); });
     rec.log.clear();

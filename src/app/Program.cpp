@@ -2,7 +2,9 @@
 
 #include <QEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
+#include <array>
 #include <utility>
 
 #include "app/QtDelay.h"
@@ -23,6 +25,7 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
     end_ = std::make_unique<view::GameEndView>(dispatch_, run.gameEnd());
     about_ = std::make_unique<view::AboutView>(dispatch_, run.about());
     story_ = std::make_unique<view::StoryView>(dispatch_, run);
+    placeWindows();
     if (delay) {
         paceMenu_ = std::make_unique<view::PaceMenu>(*main_, delay->pacing());
         replayStop_ = std::make_unique<view::ReplayStop>(*main_, run, delay->pacing());
@@ -60,6 +63,27 @@ bool Program::eventFilter(QObject* watched, QEvent* event) {
     exitAfterReplay_ = true;
     replayStop_->button().click();
     return true;
+}
+
+// The cards and About belong to the main window: no entry of their own in the task bar,
+// always above the board, and placed where they leave the turn buttons and the message
+// line in view. The set-up and end windows, shown while the main window is hidden, open in
+// the middle of the screen.
+void Program::placeWindows() {
+    const std::array<view::WindowView*, 5> owned = {cellInfo_.get(), trading_.get(), jfl_.get(),
+                                                    tax_.get(), about_.get()};
+    for (view::WindowView* window : owned) {
+        window->setParent(main_.get(), Qt::Dialog);
+        window->setPlacer(
+            [this](QSize frame) { return view::cardTopLeft(main_->cardRoom(), frame); });
+    }
+    for (view::WindowView* window : std::array<view::WindowView*, 2>{start_.get(), end_.get()}) {
+        window->setPlacer([window](QSize frame) {
+            const QScreen* screen = window->screen();
+            return screen ? view::centredTopLeft(screen->availableGeometry(), frame)
+                          : window->pos();
+        });
+    }
 }
 
 void Program::scheduleRefresh() {

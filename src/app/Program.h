@@ -53,6 +53,7 @@ protected:
 
 private:
     void scheduleRefresh();
+    void placeWindows();
 
     GameRun& run_;
     view::Dispatch dispatch_;

@@ -102,6 +102,8 @@ int main(int argc, char** argv) {
     run.start();
     gw::app::Program program(run, &delay);
     messages.setParent([&program] { return &program.startView(); });
+    // The board opens at the largest size at which it shows whole on the screen.
+    program.mainView().zoomTo(program.mainView().screenFit());
     program.refreshAll();
 
     const bool leaveLater = options.closeAfterMs > 0;

@@ -74,7 +74,7 @@ void paintLaurel(QPainter& p, QPointF centre, qreal radius, bool left) {
 
 }  // namespace
 
-TextBoxes paintEndBackground(QPainter& p, const QRectF& rect) {
+TextBoxes paintEndBackground(QPainter& p, const QRectF& rect, const QString& closingLine) {
     TextBoxes out;
     DesignSpace ds(p, rect, kEndSize, false);
     paintWindowPaper(p, kEndSize);
@@ -84,13 +84,13 @@ TextBoxes paintEndBackground(QPainter& p, const QRectF& rect) {
     paintSkyline(p, QRectF(6, 420, 588, 64), colour::withAlpha(colour::teal, 70));
     drawText(out, p, QRectF(100, 22, 400, 64), QStringLiteral("Game Over"),
              TextStyle{Face::Title, 54, colour::teal, Qt::AlignCenter, 1, 20});
-    // The ribbon behind the winner's line.
+    // The ribbon behind the winner's line, across the window's middle.
     p.setPen(pen(colour::goldDeep, 1));
-    p.setBrush(shadedBrush(colour::gold, QRectF(70, 98, 317, 25), 130, 105));
-    p.drawPath(polygon({{70, 98}, {387, 98}, {377, 110.5}, {387, 123}, {70, 123}, {80, 110.5}}));
+    p.setBrush(shadedBrush(colour::gold, QRectF(30, 92, 540, 44), 130, 105));
+    p.drawPath(polygon({{30, 92}, {570, 92}, {556, 114}, {570, 136}, {30, 136}, {44, 114}}));
     p.setPen(Qt::NoPen);
     p.setBrush(colour::paper);
-    p.drawRoundedRect(QRectF(92, 101, 273, 19), 3, 3);
+    p.drawRoundedRect(QRectF(58, 96, 484, 36), 3, 3);
     // The winner's podium and laurels.
     const QPointF podium(312, 208);
     p.setBrush(colour::withAlpha(colour::gold, 60));
@@ -104,7 +104,7 @@ TextBoxes paintEndBackground(QPainter& p, const QRectF& rect) {
     p.drawRect(QRectF(250, 250, 124, 4));
     drawText(out, p, QRectF(256, 256, 112, 22), QStringLiteral("WINNER"),
              TextStyle{Face::Caption, 14, colour::goldLight, Qt::AlignCenter, 1, 9, 3});
-    drawText(out, p, QRectF(30, 300, 360, 24), QStringLiteral("The city is yours."),
+    drawText(out, p, QRectF(40, 378, 520, 26), closingLine,
              TextStyle{Face::Title, 16, colour::inkSoft, Qt::AlignCenter, 1, 10});
     return out;
 }

@@ -13,7 +13,8 @@ constexpr int kPortraitCount = 7;
 
 // Drawn for 600 x 491: "Game Over", a ribbon for the winner's line at 96,104 (265 x 17) and
 // a podium for the winner's token at 264,168 (97 x 81); the buttons' column at x 416 stays plain.
-TextBoxes paintEndBackground(QPainter& p, const QRectF& rect);
+// The end window's page; closingLine is printed under the podium.
+TextBoxes paintEndBackground(QPainter& p, const QRectF& rect, const QString& closingLine);
 
 // Drawn for 708 x 185: "Gildenway" and "Kestrovia" over the skyline.
 TextBoxes paintAboutBanner(QPainter& p, const QRectF& rect);

@@ -10,6 +10,7 @@
 #include "art/Design.h"
 #include "art/Palette.h"
 #include "art/Paths.h"
+#include "art/Tokens.h"
 
 namespace gw::art {
 
@@ -43,6 +44,20 @@ void paintHotel(QPainter& p, const QRectF& rect) {
     p.setBrush(colour::ink);
     p.drawRect(QRectF(5, 18, 2, 2.6));
     p.restore();
+}
+
+void paintOwnerTab(QPainter& p, const QRectF& rect, int token) {
+    p.save();
+    const qreal side = std::min(rect.width(), rect.height());
+    const QRectF disc(rect.center().x() - side / 2, rect.center().y() - side / 2, side, side);
+    p.setPen(pen(colour::ink, 0.8));
+    p.setBrush(tokenColour(token));
+    p.drawEllipse(disc.adjusted(0.5, 0.5, -0.5, -0.5));
+    p.setBrush(colour::paper);
+    p.drawEllipse(disc.adjusted(3.5, 3.5, -3.5, -3.5));
+    p.restore();
+    // The silhouette wants 16 px; a smaller disc shows the colour alone.
+    paintToken(p, disc.adjusted(-1, -1, 1, 1), token);
 }
 
 TextBoxes paintMortgageStamp(QPainter& p, const QRectF& rect) {

@@ -13,6 +13,9 @@ namespace gw::art {
 // roof towards the right.
 void paintHotel(QPainter& p, const QRectF& rect);
 
+// The owner's tab: a cream disc ringed in the token's own colour, the token upon it.
+void paintOwnerTab(QPainter& p, const QRectF& rect, int token);
+
 // A red, half-transparent "MORTGAGED" stamp laid along the rectangle's diagonal.
 TextBoxes paintMortgageStamp(QPainter& p, const QRectF& rect);
 

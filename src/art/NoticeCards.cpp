@@ -1,6 +1,8 @@
 // The trade card's two faces, the JFL card and the tax cards.
 #include <QPainter>
 
+#include <array>
+
 #include "art/CardParts.h"
 #include "art/Cards.h"
 #include "art/Design.h"
@@ -37,13 +39,20 @@ TextBoxes paintTradeCard(QPainter& p, const QRectF& rect, TradeSide side) {
     drawText(out, p, QRectF(16, 60, 169, 16),
              owner ? QStringLiteral("Set your asking price") : QStringLiteral("Name your price"),
              TextStyle{Face::Caption, 10, colour::inkSoft, Qt::AlignCenter, 1, 8});
-    paintGoldRule(p, QPointF(40, 88), QPointF(161, 88));
-    const char* rows[] = {"Street", "Owner", "Trader", "Asking"};
+    paintGoldRule(p, QPointF(40, 80), QPointF(161, 80));
+    // The owner's and the trader's rows are two lines high: a long name wraps there.
+    struct Row {
+        const char* caption;
+        qreal top, height;
+    };
+    constexpr std::array<Row, 4> rows = {
+        {{"Street", 84, 16}, {"Owner", 100, 26}, {"Trader", 126, 26}, {"Asking", 152, 16}}};
     const int count = owner ? 4 : 3;
     for (int i = 0; i < count; ++i) {
-        const qreal y = 104 + 16 * i;
-        if (i % 2 == 0) paintRowStripe(p, QRectF(12, y, 177, 16));
-        drawText(out, p, QRectF(16, y, 60, 16), QString::fromLatin1(rows[i]), cardCaption());
+        const Row& row = rows[static_cast<std::size_t>(i)];
+        if (i % 2 == 0) paintRowStripe(p, QRectF(12, row.top, 177, row.height));
+        drawText(out, p, QRectF(16, row.top, 60, row.height), QString::fromLatin1(row.caption),
+                 cardCaption());
     }
     if (!owner) {
         drawText(out, p, QRectF(16, 208, 92, 25), QStringLiteral("Your offer $"),

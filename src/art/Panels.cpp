@@ -66,7 +66,8 @@ TextBoxes paintMessagePanel(QPainter& p, const QRectF& rect) {
     TextBoxes out;
     DesignSpace ds(p, rect, kMessagePanel, false);
     paintHeadedPanel(out, p, kMessagePanel, 9, QStringLiteral("NEWS"));
-    paintWell(p, QRectF(26, 25, 147, 47));
+    // The well holds the message line, which may run to several lines.
+    paintWell(p, QRectF(12, 24, 165, 124));
     paintSkyline(p, QRectF(12, 150, 165, 36), colour::withAlpha(colour::teal, 38));
     return out;
 }

@@ -17,9 +17,13 @@ QRectF squareRect(int cellId, int s);
 // Hotel h, 0 to 3.
 QRectF hotelRect(int cellId, int h);
 QRectF mortgageRect(int cellId);
+// The strip of a cell facing the centre, where its marks lie; empty on the corners.
+QRectF bandRect(int cellId);
 QRectF ownerRect(int cellId);
 // The large token of a player standing on a cell; player 0's token is the larger.
 QRectF bigTokenRect(int playerId, int cellId);
+// The same as the slot-th of count tokens that share the cell.
+QRectF bigTokenRect(int playerId, int cellId, int slot, int count);
 QRectF dieRect(int die);  // die 1 or 2
 // The left and right columns of the board, where marks lie on their side.
 bool isSideCell(int cellId);

@@ -45,39 +45,70 @@ BoardWidget::BoardWidget(QWidget* parent, const MainWindow& model, CellPrints pr
     setCursor(Qt::PointingHandCursor);
 }
 
-// The centre and the cells change only with the pixel ratio of what is painted on.
+// The centre and the cells change only with the pixel ratio of what is painted on (the
+// screen's ratio times the board's scale).
 const QPixmap& BoardWidget::background(qreal dpr) {
     if (background_.isNull() || !qFuzzyCompare(background_.devicePixelRatio(), dpr)) {
-        background_ = art::renderPicture(size(), dpr, [this](QPainter& p, const QRectF& r) {
-            p.fillRect(r, QColor(0x1F, 0x5C, 0x5A));
-            paintCentre(p, centreRect());
-            for (int c : kPaintOrder) {
-                if (const auto& print = prints_[static_cast<std::size_t>(c)]) {
-                    paintCell(p, cellRect(c), c, *print);
+        background_ = art::renderPicture(
+            QSize(kBoardWidth, kBoardHeight), dpr, [this](QPainter& p, const QRectF& r) {
+                p.fillRect(r, QColor(0x1F, 0x5C, 0x5A));
+                paintCentre(p, centreRect());
+                for (int c : kPaintOrder) {
+                    if (const auto& print = prints_[static_cast<std::size_t>(c)]) {
+                        paintCell(p, cellRect(c), c, *print);
+                    }
                 }
-            }
-        });
+            });
     }
     return background_;
 }
 
+void BoardWidget::setScale(qreal scale) {
+    scale_ = scale;
+    setFixedSize(qRound(kBoardWidth * scale), qRound(kBoardHeight * scale));
+    update();
+}
+
+// The board is painted in its design's pixels, scaled: pictures are made at the pixels shown.
 void BoardWidget::paintEvent(QPaintEvent*) {
     QPainter p(this);
+    p.scale(scale_, scale_);
     p.drawPixmap(0, 0, background(pixelRatio(p)));
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
 
-    // From the lowest to the uppermost, as the board's pictures lie on one another.
+    // A mortgaged cell is greyed under everything that stands on it; its name still reads.
+    for (int c = 0; c < kCells; ++c) {
+        if (model_.mortgageShown(c)) p.fillRect(cellRect(c), QColor(0x5A, 0x56, 0x50, 70));
+    }
+    // From the lowest to the uppermost, as the board's pictures lie on one another; tokens
+    // that share a cell fan out.
+    std::array<int, kCells> sharing{};
+    for (int id = 0; id < kMaxPlayers; ++id) {
+        const MainWindow::BigToken& token = model_.bigToken(id);
+        if (token.visible && token.cell >= 0 && token.cell < kCells) {
+            ++sharing[static_cast<std::size_t>(token.cell)];
+        }
+    }
+    std::array<int, kCells> placed{};
+    std::array<QRectF, kMaxPlayers> tokenRects{};
+    for (int id = 0; id < kMaxPlayers; ++id) {
+        const MainWindow::BigToken& token = model_.bigToken(id);
+        if (!token.visible || token.cell < 0 || token.cell >= kCells) continue;
+        const auto c = static_cast<std::size_t>(token.cell);
+        tokenRects[static_cast<std::size_t>(id)] =
+            bigTokenRect(id, token.cell, placed[c]++, sharing[c]);
+    }
     for (int id = kMaxPlayers - 1; id >= 0; --id) {
         const MainWindow::BigToken& token = model_.bigToken(id);
         const int picture = model_.panel(id).token;
-        if (token.visible && picture >= 0) {
-            drawSprite(p, bigTokenRect(id, token.cell), Sprite::Token, picture);
+        if (token.visible && picture >= 0 && !tokenRects[static_cast<std::size_t>(id)].isNull()) {
+            drawSprite(p, tokenRects[static_cast<std::size_t>(id)], Sprite::Token, picture);
         }
     }
     for (int c = 0; c < kCells; ++c) {
         const int owner = model_.ownerMark(c);
-        if (owner >= 0) drawSprite(p, ownerRect(c), Sprite::Token, owner);
+        if (owner >= 0) drawSprite(p, ownerRect(c), Sprite::Owner, owner);
     }
     if (model_.dieFace1() > 0) drawSprite(p, dieSquare(1), Sprite::Die, model_.dieFace1());
     if (model_.dieFace2() > 0) drawSprite(p, dieSquare(2), Sprite::Die, model_.dieFace2());
@@ -123,6 +154,9 @@ void BoardWidget::drawSprite(QPainter& p, const QRectF& rect, Sprite kind, int i
                 case Sprite::Token:
                     paintToken(q, place, index);
                     break;
+                case Sprite::Owner:
+                    paintOwnerTab(q, place, index);
+                    break;
                 case Sprite::Die:
                     paintDie(q, place, index);
                     break;
@@ -148,7 +182,7 @@ int BoardWidget::cellAt(QPointF point) const {
 
 void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
-    const int cell = cellAt(event->position());
+    const int cell = cellAt(event->position() / scale_);
     if (cell >= 0) emit cellClicked(cell);
 }
 

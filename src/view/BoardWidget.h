@@ -22,8 +22,10 @@ class BoardWidget : public QWidget {
 public:
     BoardWidget(QWidget* parent, const MainWindow& model, CellPrints prints);
 
-    // The cell under a point of the widget, or -1.
+    // The cell under a point of the board's design (the widget's point over its scale), or -1.
     int cellAt(QPointF point) const;
+    // Shows the board at this multiple of its design size.
+    void setScale(qreal scale);
 
 signals:
     void cellClicked(int cellId);
@@ -33,7 +35,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    enum class Sprite { Token, Die, Hotel, Mortgage };
+    enum class Sprite { Token, Owner, Die, Hotel, Mortgage };
     // Kind, index, the pixel ratio, then the size and the offset within a device pixel, in
     // hundredths of a device pixel.
     using SpriteKey = std::tuple<Sprite, int, int, int, int, int, int>;
@@ -44,6 +46,7 @@ private:
     const MainWindow& model_;
     CellPrints prints_;
     QPixmap background_;
+    qreal scale_ = 1;
     std::map<SpriteKey, QPixmap> sprites_;
 };
 

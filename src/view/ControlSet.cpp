@@ -6,28 +6,11 @@
 #include <algorithm>
 
 #include "view/CaptionButton.h"
+#include "view/FitLabel.h"
 #include "view/Style.h"
+#include "view/TextFit.h"
 
 namespace gw::view {
-
-namespace {
-
-constexpr int kSmallestPx = 8;
-
-// A one-line label whose text is wider than its box gets a smaller font, down to 8 px.
-void fitOneLine(QLabel& label) {
-    if (label.wordWrap()) return;
-    QFont f = label.font();
-    int px = label.property("basePx").toInt();
-    f.setPixelSize(px);
-    while (px > kSmallestPx &&
-           QFontMetrics(f).horizontalAdvance(label.text()) > label.width() - 2) {
-        f.setPixelSize(--px);
-    }
-    label.setFont(f);
-}
-
-}  // namespace
 
 QString qs(const std::string& text) {
     return QString::fromStdString(text);
@@ -44,9 +27,8 @@ ControlSet::ControlSet(QWidget& parent, std::span<const Place> places) {
                 break;
             }
             case ControlKind::Label: {
-                auto* label = new QLabel(&parent);
+                auto* label = new FitLabel(&parent, place.fontPx, place.wrap);
                 label->setAlignment(place.align);
-                label->setWordWrap(place.wrap);
                 label->setAttribute(Qt::WA_TranslucentBackground);
                 label->setProperty("role", "printed");
                 w = label;
@@ -64,6 +46,7 @@ ControlSet::ControlSet(QWidget& parent, std::span<const Place> places) {
         w->setFont(controlFont(place.kind, place.fontPx));
         w->setProperty("basePx", place.fontPx);
         widgets_.emplace(std::string(place.name), w);
+        designRects_[std::string(place.name)] = place.rect();
     }
 }
 
@@ -78,16 +61,43 @@ void ControlSet::apply(std::string_view name, const Control& control) {
     const QString caption = qs(control.caption);
     if (auto* b = qobject_cast<QAbstractButton*>(w)) {
         if (b->text() != caption) b->setText(caption);
-    } else if (auto* l = qobject_cast<QLabel*>(w)) {
-        if (l->text() != caption) {
-            l->setText(caption);
-            fitOneLine(*l);
-        }
+    } else if (auto* l = qobject_cast<FitLabel*>(w)) {
+        if (l->text() != caption) l->setCaption(caption);
     } else if (auto* e = qobject_cast<QLineEdit*>(w)) {
         if (e->text() != caption) e->setText(caption);
     }
     if (w->isEnabled() != control.enabled) w->setEnabled(control.enabled);
     if (w->isVisibleTo(w->parentWidget()) != control.visible) w->setVisible(control.visible);
+}
+
+void ControlSet::placeInRooms(std::span<const Place> rooms) {
+    for (const Place& room : rooms) {
+        QWidget* w = widget(room.name);
+        if (!w) continue;
+        w->setGeometry(room.rect());
+        designRects_[std::string(room.name)] = room.rect();
+        w->setProperty("basePx", room.fontPx);
+        if (auto* label = qobject_cast<FitLabel*>(w)) {
+            label->setMayWrap(room.wrap);
+            label->setSizes(room.fontPx, kTextFloorPx);
+        }
+    }
+}
+
+void ControlSet::setScale(qreal scale) {
+    const auto scaled = [scale](int v) { return qRound(v * scale); };
+    for (const auto& [name, w] : widgets_) {
+        const QRect r = designRects_[name];
+        w->setGeometry(scaled(r.x()), scaled(r.y()), scaled(r.width()), scaled(r.height()));
+        const int px = std::max(1, scaled(w->property("basePx").toInt()));
+        if (auto* label = qobject_cast<FitLabel*>(w)) {
+            label->setSizes(px, std::max(1, scaled(kTextFloorPx)));
+        } else {
+            QFont f = w->font();
+            f.setPixelSize(px);
+            w->setFont(f);
+        }
+    }
 }
 
 QWidget* ControlSet::widget(std::string_view name) const {

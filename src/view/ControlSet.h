@@ -30,6 +30,11 @@ public:
     }
     void apply(std::string_view name, const Control& control);
 
+    // Moves texts to the larger boxes they may grow into, and lets them wrap there.
+    void placeInRooms(std::span<const Place> rooms);
+    // Places every control and sizes its type at this multiple of the design.
+    void setScale(qreal scale);
+
     QWidget* widget(std::string_view name) const;
     QAbstractButton* button(std::string_view name) const;
     QLabel* label(std::string_view name) const;
@@ -39,6 +44,7 @@ public:
 
 private:
     std::map<std::string, QWidget*, std::less<>> widgets_;
+    std::map<std::string, QRect, std::less<>> designRects_;
     std::vector<std::string> unplaced_;
 };
 

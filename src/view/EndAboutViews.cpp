@@ -7,10 +7,13 @@
 namespace gw::view {
 
 GameEndView::GameEndView(Dispatch& dispatch, GameEnd& model)
-    : WindowView(dispatch, QStringLiteral("Game Over"), {615, 526}, gameEndPlaces(),
-                 [](QPainter& p, const QRectF& r) { paintEndBackground(p, r); }),
+    : WindowView(dispatch, QStringLiteral("Game Over"), {615, 526}, gameEndPlaces(), {}),
       model_(model),
       winner_(new PictureWidget(this)) {
+    background_->setPaint([this](QPainter& p, const QRectF& r) {
+        paintEndBackground(p, r, qs(model_.closingLine()));
+    });
+    controls_.placeInRooms(gameEndTextRooms());
     winner_->setGeometry(pixels(3960, 2520, 1455, 1215));
     winner_->setPaint([this](QPainter& p, const QRectF& r) {
         if (model_.Image2() >= 0) {
@@ -27,6 +30,7 @@ GameEndView::GameEndView(Dispatch& dispatch, GameEnd& model)
 
 void GameEndView::refresh() {
     controls_.apply(model_);
+    background_->update();
     winner_->update();
     followVisibility(model_.isVisible());
 }

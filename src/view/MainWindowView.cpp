@@ -3,6 +3,9 @@
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QResizeEvent>
+#include <QScreen>
+#include <cmath>
 
 #include "view/Places.h"
 #include "windows/MainWindow.h"
@@ -40,10 +43,13 @@ QRectF panelTokenRect(int row) {
 }  // namespace
 
 MainWindowView::MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints prints)
-    : dispatch_(dispatch), model_(model), client_(new QWidget(this)) {
+    : dispatch_(dispatch), model_(model), stage_(new QWidget(this)), client_(new QWidget(stage_)) {
     setWindowTitle(QStringLiteral("Gildenway v1.0"));
     client_->setFixedSize(kClient);
-    setCentralWidget(client_);
+    // The stage fills the window; the client, in proportion, stands in its middle.
+    setCentralWidget(stage_);
+    stage_->setMinimumSize(kClient / 4);
+    stage_->installEventFilter(this);
     board_ = new BoardWidget(client_, model_, std::move(prints));
     board_->move(0, 0);
     connect(board_, &BoardWidget::cellClicked, this, [this](int cell) {
@@ -74,6 +80,7 @@ MainWindowView::MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints
     });
 
     controls_ = std::make_unique<ControlSet>(*client_, mainWindowPlaces());
+    controls_->placeInRooms(mainWindowTextRooms());
     // Plain functions rather than member pointers: the sanitizer build of the compiler we use
     // misreads a member-pointer call made inside a lambda.
     using Handler = void (*)(MainWindow&);
@@ -91,6 +98,7 @@ MainWindowView::MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints
         }
     }
     buildMenus();
+    resize(kClient.width(), kClient.height() + menuBar()->sizeHint().height());
 }
 
 void MainWindowView::buildMenus() {
@@ -107,6 +115,14 @@ void MainWindowView::buildMenus() {
     file->addSeparator();
     actions_["Exit"] = file->addAction(QStringLiteral("E&xit"), this,
                                        [this] { click([this] { model_.Exit_Click(); }); });
+    QMenu* view = menuBar()->addMenu(QStringLiteral("&View"));
+    for (int percent : {100, 150, 200}) {
+        actions_["Zoom" + std::to_string(percent)] =
+            view->addAction(QStringLiteral("%1 %").arg(percent), this,
+                            [this, percent] { zoomTo(percent / 100.0); });
+    }
+    actions_["Fit"] =
+        view->addAction(QStringLiteral("&Fit"), this, [this] { zoomTo(screenFit()); });
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
     actions_["About"] = help->addAction(QStringLiteral("&About"), this,
                                         [this] { click([this] { model_.About_Click(); }); });
@@ -114,6 +130,64 @@ void MainWindowView::buildMenus() {
 
 QAction& MainWindowView::action(std::string_view name) const {
     return *actions_.find(name)->second;
+}
+
+void MainWindowView::setScale(qreal scale) {
+    scale_ = scale;
+    client_->setFixedSize(qRound(kClient.width() * scale), qRound(kClient.height() * scale));
+    board_->setScale(scale);
+    for (std::size_t i = 0; i < kPanels.size(); ++i) {
+        const QRect r = kPanels[i].rect;
+        panels_[i]->setGeometry(qRound(r.x() * scale), qRound(r.y() * scale),
+                                qRound(r.width() * scale), qRound(r.height() * scale));
+        panels_[i]->setDesignScale(scale);
+    }
+    controls_->setScale(scale);
+}
+
+bool MainWindowView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == stage_ && event->type() == QEvent::Resize) {
+        const QSize room = stage_->size();
+        const qreal fit = std::min(room.width() / static_cast<qreal>(kClient.width()),
+                                   room.height() / static_cast<qreal>(kClient.height()));
+        if (std::abs(fit - scale_) > 0.001) setScale(fit);
+        client_->move((room.width() - client_->width()) / 2,
+                      (room.height() - client_->height()) / 2);
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindowView::zoomTo(qreal scale) {
+    const QSize stage(qRound(kClient.width() * scale), qRound(kClient.height() * scale));
+    resize(stage + QSize(0, menuBar()->sizeHint().height()));
+}
+
+qreal MainWindowView::screenFit() const {
+    const QScreen* shown = screen();
+    if (!shown) return 1;
+    // The frame and the menu bar take their room first.
+    const QSize around = frameGeometry().size() - size() + QSize(0, menuBar()->sizeHint().height());
+    const QSize room = shown->availableGeometry().size() - around;
+    const qreal fit = std::min(room.width() / static_cast<qreal>(kClient.width()),
+                               room.height() / static_cast<qreal>(kClient.height()));
+    return fit >= 1 ? std::floor(fit) : fit;
+}
+
+CardRoom MainWindowView::cardRoom() const {
+    const auto global = [](const QWidget& w) {
+        return QRect(w.mapToGlobal(QPoint(0, 0)), w.size());
+    };
+    CardRoom room;
+    const QScreen* shown = screen();
+    room.screen = shown ? shown->availableGeometry() : QRect();
+    room.mainFrame = frameGeometry();
+    room.board = global(*board_);
+    for (const char* name : {"rollDice", "declareBank", "endTurn", "pay50Rent", "useJFLCard"}) {
+        if (const QWidget* button = controls_->widget(name))
+            room.keepClear.push_back(global(*button));
+    }
+    room.keepClear.push_back(global(*panels_[1]));
+    return room;
 }
 
 void MainWindowView::refresh() {

@@ -28,15 +28,22 @@ void PictureWidget::setClickable(bool clickable) {
     setCursor(clickable ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
+void PictureWidget::setDesignScale(qreal scale) {
+    scale_ = scale;
+    update();
+}
+
 void PictureWidget::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
-    if (paint_) paint_(p, QRectF(rect()));
+    p.scale(scale_, scale_);
+    const QRectF design(QPointF(0, 0), QSizeF(size()) / scale_);
+    if (paint_) paint_(p, design);
     if (bordered_) {
         p.setPen(QPen(art::colour::gold, 2));
         p.setBrush(Qt::NoBrush);
-        p.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+        p.drawRoundedRect(design.adjusted(1, 1, -1, -1), 4, 4);
     }
 }
 

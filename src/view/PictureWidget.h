@@ -18,6 +18,9 @@ public:
     bool isBordered() const { return bordered_; }
     // A picture that takes clicks shows a pointing hand.
     void setClickable(bool clickable);
+    // Paints the picture as drawn for its design size, scaled by this factor: the vectors are
+    // painted at the size shown, never stretched as a bitmap.
+    void setDesignScale(qreal scale);
 
 signals:
     void clicked();
@@ -32,6 +35,7 @@ private:
     bool bordered_ = false;
     bool clickable_ = false;
     bool pressed_ = false;
+    qreal scale_ = 1;
 };
 
 }  // namespace gw::view

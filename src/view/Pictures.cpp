@@ -104,6 +104,10 @@ void paintDie(QPainter& p, const QRectF& rect, int face) {
     art::paintDieFace(p, rect, face);
 }
 
+void paintOwnerTab(QPainter& p, const QRectF& rect, int token) {
+    art::paintOwnerTab(p, rect, token);
+}
+
 void paintHotel(QPainter& p, const QRectF& rect, bool) {
     art::paintHotel(p, rect);
 }
@@ -170,8 +174,8 @@ void paintTaxCard(QPainter& p, const QRectF& rect, TaxPicture picture) {
         p, rect, picture == TaxPicture::LuxuryTax ? art::TaxKind::Luxury : art::TaxKind::Income);
 }
 
-void paintEndBackground(QPainter& p, const QRectF& rect) {
-    art::paintEndBackground(p, rect);
+void paintEndBackground(QPainter& p, const QRectF& rect, const QString& closingLine) {
+    art::paintEndBackground(p, rect, closingLine);
 }
 
 void paintAboutBanner(QPainter& p, const QRectF& rect) {

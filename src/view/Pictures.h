@@ -29,6 +29,8 @@ CellPrints cellPrints(const CellFaces& faces);
 void paintCell(QPainter& p, const QRectF& rect, int cellId, const CellPrint& print);
 void paintCentre(QPainter& p, const QRectF& rect);
 void paintToken(QPainter& p, const QRectF& rect, int token);
+// The owner's tab on a cell's band: the token on a disc ringed in its colour.
+void paintOwnerTab(QPainter& p, const QRectF& rect, int token);
 void paintDie(QPainter& p, const QRectF& rect, int face);
 // A hotel or a mortgage stamp; side is true on the left and right columns of the board.
 void paintHotel(QPainter& p, const QRectF& rect, bool side);
@@ -51,7 +53,7 @@ void paintJflCard(QPainter& p, const QRectF& rect);
 void paintTaxCard(QPainter& p, const QRectF& rect, TaxPicture picture);
 
 // The end and About windows
-void paintEndBackground(QPainter& p, const QRectF& rect);
+void paintEndBackground(QPainter& p, const QRectF& rect, const QString& closingLine);
 void paintAboutBanner(QPainter& p, const QRectF& rect);
 // The About window's page: cream stock within the teal rim of the panels.
 void paintAboutBackground(QPainter& p, const QRectF& rect);

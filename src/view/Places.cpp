@@ -23,7 +23,8 @@ constexpr Place row(std::string_view name, K kind, int left, int top, int width,
 }
 constexpr Place inPlayers(std::string_view name, int left, int top, int width, int height,
                           Qt::Alignment align) {
-    return row(name, K::Label, kPanelLeft + left, kPlayersTop + top, width, height, align, 11);
+    return row(name, K::Label, kPanelLeft + left, kPlayersTop + top, width, height, align, 11,
+               name.starts_with("PlayerName"));
 }
 
 constexpr std::array kMain = {
@@ -33,7 +34,7 @@ constexpr std::array kMain = {
     row("pay50Rent", K::Button, 1440, 2760, 1095, 495, kCentre, 11, true),
     row("useJFLCard", K::Button, 1440, 3360, 1095, 735, kCentre, 11, true),
     row("Label1", K::Label, kPanelLeft + 465, kMessagesTop + 420, 2055, 615, kCentre, 11, true),
-    row("Label2", K::Label, kPanelLeft + 1275, kTurnTop + 885, 1215, 375, kLeft, 13),
+    row("Label2", K::Label, kPanelLeft + 1275, kTurnTop + 885, 1215, 375, kLeft, 13, true),
     inPlayers("PlayerName(0)", 870, 525, 1095, 255, kLeft),
     inPlayers("PlayerName(1)", 855, 930, 1095, 255, kLeft),
     inPlayers("PlayerName(2)", 840, 1305, 1095, 255, kLeft),
@@ -46,6 +47,22 @@ constexpr std::array kMain = {
     inPlayers("Balance(3)", 1920, 1665, 615, 255, kRight),
     inPlayers("Balance(4)", 1920, 2085, 615, 255, kRight),
     inPlayers("Balance(5)", 1890, 2415, 615, 255, kRight),
+};
+
+// The name of row i runs from the token's edge to the balance, on two lines if need be.
+constexpr Place nameRoom(std::string_view name, int top) {
+    return inPlayers(name, 825, top - 45, 1095, 330, kLeft);
+}
+
+constexpr std::array kMainTextRooms = {
+    row("Label1", K::Label, kPanelLeft + 240, kMessagesTop + 405, 2310, 1620, kCentre, 11, true),
+    row("Label2", K::Label, kPanelLeft + 1200, kTurnTop + 450, 1470, 1290, kLeft, 13, true),
+    nameRoom("PlayerName(0)", 525),
+    nameRoom("PlayerName(1)", 930),
+    nameRoom("PlayerName(2)", 1305),
+    nameRoom("PlayerName(3)", 1695),
+    nameRoom("PlayerName(4)", 2085),
+    nameRoom("PlayerName(5)", 2415),
 };
 
 constexpr std::array kStart = {
@@ -96,6 +113,13 @@ constexpr std::array kTradingCard = {
     row("forgetIt", K::Button, 240, 3960, 2535, 255, kCentre, 11),
 };
 
+// The owner's and the trader's names take two lines beside their printed captions.
+constexpr std::array kTradingCardTextRooms = {
+    row("Label1", K::Label, 1200, 1260, 1575, 240, kRight),
+    row("Label2", K::Label, 870, 1500, 1920, 390, kRight, 12, true),
+    row("Label3", K::Label, 870, 1890, 1920, 390, kRight, 12, true),
+};
+
 constexpr std::array kJflCard = {
     row("Label2", K::Label, 360, 1800, 2415, 1575, kCentre, 15, true),
     row("Ok", K::Button, 1200, 3480, 855, 495, kCentre),
@@ -110,6 +134,10 @@ constexpr std::array kGameEnd = {
     row("Label1", K::Label, 1440, 1560, 3975, 255, kCentre, 13),
     row("Command1", K::Button, 6240, 4200, 2535, 495, kCentre, 14),
     row("Command2", K::Button, 6240, 5040, 2535, 495, kCentre, 14),
+};
+
+constexpr std::array kGameEndTextRooms = {
+    row("Label1", K::Label, 945, 1560, 7725, 570, kCentre, 19, true),
 };
 
 constexpr int kHeadingPx = 17;
@@ -136,6 +164,9 @@ constexpr std::array kAbout = {
 std::span<const Place> mainWindowPlaces() {
     return kMain;
 }
+std::span<const Place> mainWindowTextRooms() {
+    return kMainTextRooms;
+}
 std::span<const Place> gameStartPlaces() {
     return kStart;
 }
@@ -145,6 +176,9 @@ std::span<const Place> propertyCardPlaces() {
 std::span<const Place> tradingCardPlaces() {
     return kTradingCard;
 }
+std::span<const Place> tradingCardTextRooms() {
+    return kTradingCardTextRooms;
+}
 std::span<const Place> jflCardPlaces() {
     return kJflCard;
 }
@@ -153,6 +187,9 @@ std::span<const Place> taxCardPlaces() {
 }
 std::span<const Place> gameEndPlaces() {
     return kGameEnd;
+}
+std::span<const Place> gameEndTextRooms() {
+    return kGameEndTextRooms;
 }
 std::span<const Place> aboutPlaces() {
     return kAbout;

@@ -37,4 +37,12 @@ std::span<const Place> taxCardPlaces();
 std::span<const Place> gameEndPlaces();
 std::span<const Place> aboutPlaces();
 
+// Where texts of the main window may grow inside their own panels so that they show whole:
+// the message line fills the panel's well, the name of the player whose turn it is the
+// room beside the token, a player's name the height of its row.
+std::span<const Place> mainWindowTextRooms();
+std::span<const Place> tradingCardTextRooms();
+// The winner's line fills the ribbon across the end window.
+std::span<const Place> gameEndTextRooms();
+
 }  // namespace gw::view

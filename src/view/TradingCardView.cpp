@@ -14,6 +14,7 @@ TradingCardView::TradingCardView(Dispatch& dispatch, TradingCardWindow& model)
     background_->setPaint([this](QPainter& p, const QRectF&) {
         paintTradingCard(p, QRectF(0, 0, 201, 299), model_.face());
     });
+    controls_.placeInRooms(tradingCardTextRooms());
     onClicked("doneDeal", [this] { model_.doneDeal_Click(); });
     onClicked("wantIt", [this] { model_.wantIt_Click(); });
     onClicked("wantMore", [this] { model_.wantMore_Click(); });

@@ -24,8 +24,15 @@ void WindowView::onClicked(std::string_view name, std::function<void()> handler)
     }
 }
 
+QSize WindowView::frameSize() const {
+    const QWidget* measured = this;
+    if (frameGeometry().size() == size() && parentWidget()) measured = parentWidget()->window();
+    return size() + measured->frameGeometry().size() - measured->size();
+}
+
 void WindowView::followVisibility(bool visible) {
     if (visible == isVisible()) return;
+    if (visible && placer_) move(placer_(frameSize()));
     setVisible(visible);
     if (visible) raise();
 }

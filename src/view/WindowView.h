@@ -22,6 +22,11 @@ public:
     virtual void refresh() = 0;
     const ControlSet& controls() const { return controls_; }
     PictureWidget& backgroundPicture() { return *background_; }
+    // Chooses where the window's frame opens, each time it comes up; given the frame's size.
+    void setPlacer(std::function<QPoint(QSize)> placer) { placer_ = std::move(placer); }
+    // The window with its frame: the frame's margins are those of the owner until the
+    // window system has told them.
+    QSize frameSize() const;
 
 protected:
     // What the window's own close box does; by default nothing but staying up.
@@ -37,6 +42,7 @@ protected:
 
 private:
     std::function<void()> onCloseBox_;
+    std::function<QPoint(QSize)> placer_;
 };
 
 }  // namespace gw::view

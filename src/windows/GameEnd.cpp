@@ -2,9 +2,16 @@
 
 #include <array>
 
+#include "game/Board.h"
+#include "players/player.h"
 #include "windows/MainWindow.h"
 
 namespace gw {
+
+namespace {
+constexpr const char* kHumanWon = "The city is yours.";
+constexpr const char* kComputerWon = "The machines hold the city.";
+}  // namespace
 
 // The winner is the row of the panel whose balance does not read "Bankrupt": rows of
 // players who went bankrupt say so, and so do the rows that no player used.
@@ -14,6 +21,9 @@ void GameEnd::Form_Load() {
         if (row.balance.caption != "Bankrupt") {
             label1_.caption = row.name.caption + ", the richest person in Kestrovia!";
             image2_ = row.token;
+            const player* winner =
+                main_.board() ? main_.board()->getPlayer(static_cast<Integer>(i)) : nullptr;
+            closingLine_ = winner && winner->isComputer2() ? kComputerWon : kHumanWon;
         }
     }
     setVisible(true);
@@ -30,6 +40,7 @@ void GameEnd::Command2_Click() const {
 void GameEnd::unload() {
     label1_.caption = "Label1";
     image2_ = -1;
+    closingLine_.clear();
     setVisible(false);
 }
 

@@ -28,6 +28,8 @@ public:
     const Control& Label1() const { return label1_; }
     // The winner's token picture, -1 while empty.
     int Image2() const { return image2_; }
+    // The line under the podium: "The city is yours." speaks to a human winner only.
+    const std::string& closingLine() const { return closingLine_; }
     const Control& Command1() const { return command1_; }
     const Control& Command2() const { return command2_; }
     void forEachControl(const ControlVisitor& fn) const;
@@ -36,6 +38,7 @@ private:
     const MainWindow& main_;
     Control label1_{true, true, "Label1"};
     int image2_ = -1;
+    std::string closingLine_;
     Control command1_{true, true, "Start a new game"};
     Control command2_{true, true, "Exit game"};
     std::function<void()> onNewGame_;

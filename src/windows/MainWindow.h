@@ -118,6 +118,8 @@ public:
     // Every control by its name, as a view binds them.
     void forEachControl(const ControlVisitor& fn) const;
     bool isEnabled() const { return enabled_; }
+    // The board of the game shown, or null before init.
+    const Board* board() const { return board_; }
     bool gameEndShown() const { return gameEndShown_; }
     const std::string& Label1() const { return label1_; }
     const std::string& Label2() const { return label2_; }

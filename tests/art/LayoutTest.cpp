@@ -117,8 +117,9 @@ TEST(ClearAreas, WindowBackgroundsLeaveTheControlsTheirPlaces) {
         for (int i = 0; i < 7; ++i)
             EXPECT_EQ(inkPixels(start, QRect(8 + 56 * i + 4, 253 + 56 * row + 4, 48, 48)), 0);
     EXPECT_EQ(inkPixels(start, QRect(418, 186, 140, 148)), 0);  // the list of players
-    const QImage end =
-        renderImage({600, 491}, 1, [](QPainter& p, const QRectF& r) { paintEndBackground(p, r); });
+    const QImage end = renderImage({600, 491}, 1, [](QPainter& p, const QRectF& r) {
+        paintEndBackground(p, r, QStringLiteral("The city is yours."));
+    });
     EXPECT_EQ(inkPixels(end, QRect(98, 106, 261, 13)), 0);   // the winner's line
     EXPECT_EQ(inkPixels(end, QRect(416, 280, 169, 89)), 0);  // the buttons
 }

@@ -213,6 +213,7 @@ TEST_F(GameFlow, BankruptcyShowsTheWinnerAndANewGameBringsTheSetUpBack) {
               "Computer1, the richest person in Kestrovia!");
     const QLabel& winner = *end.controls().label("Label1");
     EXPECT_LE(QFontMetrics(winner.font()).horizontalAdvance(winner.text()), winner.width());
+    EXPECT_EQ(gui->run.gameEnd().closingLine(), "The machines hold the city.");
     savePictures(end, "game-over");
 
     click(button(end.controls(), "Command1"));

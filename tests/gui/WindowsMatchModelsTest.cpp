@@ -40,7 +40,8 @@ TEST(WindowsMatchModels, AtLoadEveryWindowHasItsTitleSizeAndControls) {
     EXPECT_EQ(p.startView().windowTitle(), "Welcome to Gildenway v1.0");
     EXPECT_EQ(p.startView().size(), QSize(600, 400));
     EXPECT_EQ(p.mainView().windowTitle(), "Gildenway v1.0");
-    EXPECT_EQ(p.mainView().centralWidget()->size(), QSize(778, 596));
+    EXPECT_EQ(p.mainView().board().parentWidget()->size(), QSize(778, 596));
+    EXPECT_EQ(p.mainView().scale(), 1.0);
     EXPECT_EQ(p.propertyCard().windowTitle(), "Property Card");
     EXPECT_EQ(p.propertyCard().size(), QSize(199, 298));
     EXPECT_EQ(p.tradingCard().size(), QSize(202, 306));

@@ -186,8 +186,12 @@ std::vector<PictureEntry> catalogue() {
         {QStringLiteral("cards"), QStringLiteral("luxury tax"), kNoticeCardSize,
          [](QPainter& p, const QRectF& r) { return paintTaxCard(p, r, TaxKind::Luxury); }});
 
-    out.push_back(
-        {QStringLiteral("end-about"), QStringLiteral("end"), {600, 491}, paintEndBackground});
+    out.push_back({QStringLiteral("end-about"),
+                   QStringLiteral("end"),
+                   {600, 491},
+                   [](QPainter& p, const QRectF& r) {
+                       return paintEndBackground(p, r, QStringLiteral("The city is yours."));
+                   }});
     out.push_back({QStringLiteral("end-about"),
                    QStringLiteral("about banner"),
                    {708, 185},
