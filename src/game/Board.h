@@ -7,6 +7,8 @@
 #include <functional>
 #include <memory>
 
+// game and the rule folders include each other: the board owns its deck, cells and
+// players, and they reach back only through game's leaf headers and a Board&.
 #include "cards/JFLDeck.h"
 #include "cells/BoardCell.h"
 #include "game/Dice.h"
