@@ -18,6 +18,9 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
     tax_ = std::make_unique<view::TaxCardView>(dispatch_, w.taxCard);
     end_ = std::make_unique<view::GameEndView>(dispatch_, run.gameEnd());
     about_ = std::make_unique<view::AboutView>(dispatch_, run.about());
+    // Over the panel with a picture and no controls, under the emblem's place.
+    debt_ = new view::DebtPanelView(main_->client(), QRect(592, 376, 186, 96), dispatch_,
+                                    run.debtHelp());
     if (delay) {
         dispatch_.setAfterClick([this, delay] {
             if (run_.isWindingDown()) delay->cutShort();
@@ -48,6 +51,7 @@ void Program::refreshAll() {
     about_->refresh();
     end_->refresh();
     start_->refresh();
+    debt_->refresh();
     main_->refresh();
     if (onRefreshed_) onRefreshed_();
 }

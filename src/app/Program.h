@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "view/CardViews.h"
+#include "view/DebtPanelView.h"
 #include "view/Dispatch.h"
 #include "view/MainWindowView.h"
 #include "view/StartEndViews.h"
@@ -37,6 +38,7 @@ public:
     view::TaxCardView& taxCard() { return *tax_; }
     view::GameEndView& endView() { return *end_; }
     view::AboutView& aboutView() { return *about_; }
+    view::DebtPanelView& debtPanel() { return *debt_; }
 
 private:
     void scheduleRefresh();
@@ -51,6 +53,7 @@ private:
     std::unique_ptr<view::TaxCardView> tax_;
     std::unique_ptr<view::GameEndView> end_;
     std::unique_ptr<view::AboutView> about_;
+    view::DebtPanelView* debt_ = nullptr;  // a child of the main window
     bool refreshScheduled_ = false;
     std::function<void()> onRefreshed_;
     // Set while this object lives: a refresh queued from the event loop checks it.

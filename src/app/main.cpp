@@ -11,6 +11,7 @@
 #include "app/Program.h"
 #include "app/QtDelay.h"
 #include "app/QtMessageBox.h"
+#include "app/QtQuestion.h"
 #include "app/QtSound.h"
 #include "view/Style.h"
 #include "windows/GameRun.h"
@@ -69,10 +70,13 @@ int main(int argc, char** argv) {
     gw::app::QtMessageBox messages;
     gw::GameRun run(sound, delay, messages, randomSource(options));
     run.setOnExit([] { QCoreApplication::exit(0); });
+    gw::app::QtQuestion questions;
+    run.setQuestion(questions);
 
     run.start();
     gw::app::Program program(run, &delay);
     messages.setParent([&program] { return &program.startView(); });
+    questions.setParent([&program] { return &program.mainView(); });
     program.refreshAll();
 
     QuitWhenShown quitWhenShown(sinceStart);
@@ -91,6 +95,13 @@ int main(int argc, char** argv) {
             if (options.leaveBy == gw::app::Options::Leave::FileExit) {
                 program.mainView().action("Exit").trigger();
             } else {
+                // The close box asks during a game: the answer is Yes, given by pressing
+                // the box's button once it is up.
+                auto* answer = new QTimer(&app);
+                QObject::connect(answer, &QTimer::timeout, answer, [answer] {
+                    if (gw::app::answerYesToQuestion()) answer->deleteLater();
+                });
+                answer->start(10);
                 program.mainView().close();
             }
         });

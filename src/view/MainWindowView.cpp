@@ -3,8 +3,10 @@
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QShortcut>
 
 #include "view/Places.h"
+#include "windows/GameRun.h"
 #include "windows/MainWindow.h"
 
 namespace gw::view {
@@ -91,6 +93,11 @@ MainWindowView::MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints
         }
     }
     buildMenus();
+    for (const QKeySequence& key :
+         {QKeySequence(Qt::Key_Space), QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)}) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this,
+                [this] { click([this] { model_.turnKey_Press(); }); });
+    }
 }
 
 void MainWindowView::buildMenus() {
@@ -126,9 +133,9 @@ void MainWindowView::refresh() {
 }
 
 void MainWindowView::closeEvent(QCloseEvent* event) {
-    // Closing the window is leaving the program, as File > Exit is.
+    // Closing the window is leaving the program, after a question during a game.
     event->ignore();
-    click([this] { model_.Exit_Click(); });
+    click([this] { dispatch_.run().closeMainWindow(); });
 }
 
 }  // namespace gw::view

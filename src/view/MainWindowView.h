@@ -23,6 +23,8 @@ public:
     void refresh();
     const ControlSet& controls() const { return *controls_; }
     BoardWidget& board() { return *board_; }
+    // The area under the menu bar, where the board and the panels lie.
+    QWidget& client() const { return *client_; }
     QAction& action(std::string_view name) const;
 
 protected:

@@ -35,7 +35,7 @@ void CellInfoWindow::showInfoCard(Integer iId, Integer iGroup, std::span<const I
     for (int i = 4; i <= 10; ++i) labels_[static_cast<std::size_t>(i)].clear();
 
     for (Control* c : {&trade_, &buy_, &forget_, &payRent_, &buyHotel_, &sellHotel_, &mortgage_[0],
-                       &mortgage_[1], &ok_[0], &ok_[1], &unmortgage_}) {
+                       &mortgage_[1], &ok_[0], &ok_[1], &unmortgage_, &payTo_}) {
         c->hide();
     }
     buyHotel_.enable(false);
@@ -52,6 +52,11 @@ void CellInfoWindow::showInfoCard(Integer iId, Integer iGroup, std::span<const I
             break;
         case 2: {
             payRent_.show();
+            payTo_.show();
+            // The card of a landing carries no owner's name: the payee is said here.
+            if (ownerWhenShown_ != nullptr) {
+                payTo_.caption = "Rent goes to " + ownerWhenShown_->getName();
+            }
             const Integer shortfall = p.canPayRent(cardId_);
             if (shortfall != 0) {
                 windows_.main.showInfo("You cannot pay the rent, you must get $" +
@@ -243,6 +248,7 @@ void CellInfoWindow::forEachControl(const ControlVisitor& fn) const {
     fn("Unmortgage", unmortgage_);
     fn("buyHotel", buyHotel_);
     fn("sellHotel", sellHotel_);
+    fn("payTo", payTo_);
 }
 
 }  // namespace gw

@@ -65,6 +65,8 @@ public:
     const Control& Unmortgage() const { return unmortgage_; }
     const Control& buyHotel() const { return buyHotel_; }
     const Control& sellHotel() const { return sellHotel_; }
+    // On a rent card, whom the rent goes to.
+    const Control& payTo() const { return payTo_; }
 
 private:
     void showOwnCellButtons(bool narrow);
@@ -97,6 +99,7 @@ private:
     Control unmortgage_{true, true, "Unmortgage"};
     Control buyHotel_{true, true, "Buy Hotel"};
     Control sellHotel_{true, true, "Sell Hotel"};
+    Control payTo_{false, true, ""};
 };
 
 }  // namespace gw

@@ -10,7 +10,8 @@ GameRun::GameRun(Sound& sound, Delay& delay, MessageBox& messages, std::unique_p
       windows_(rulesWindow_, sound, delay_),
       board_(windows_, std::move(random)),
       start_(board_, sound, messages),
-      end_(main_) {
+      end_(main_),
+      debtHelp_(main_, board_, yesToAll_) {
     start_.setOnStart([this](const GameSetup& setup) { beginGame(setup); });
     main_.setOnExit([this] { requestExit(); });
     main_.setOnAbout([this] { about_.show(); });
@@ -30,6 +31,16 @@ void GameRun::setOnChanged(std::function<void()> hook) {
     start_.setOnChanged(hook);
     end_.setOnChanged(hook);
     about_.setOnChanged(std::move(hook));
+}
+
+void GameRun::setQuestion(Question& question) {
+    question_ = &question;
+    debtHelp_.setQuestion(question);
+}
+
+void GameRun::closeMainWindow() {
+    if (main_.isVisible() && !question_->ask("Gildenway", "Leave the game in progress?")) return;
+    requestExit();
 }
 
 void GameRun::watchMainWindow(MainWindowPort& watcher, std::function<void()> onGameBegin) {

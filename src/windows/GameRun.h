@@ -9,12 +9,14 @@
 
 #include "game/Board.h"
 #include "game/Random.h"
+#include "windows/DebtHelp.h"
 #include "windows/Delay.h"
 #include "windows/GameEnd.h"
 #include "windows/GameStart.h"
 #include "windows/MainWindow.h"
 #include "windows/MainWindowTee.h"
 #include "windows/MessageBox.h"
+#include "windows/Question.h"
 #include "windows/Sound.h"
 #include "windows/Windows.h"
 
@@ -46,6 +48,13 @@ public:
     // their own books of what people do through the windows.
     void watchMainWindow(MainWindowPort& watcher, std::function<void()> onGameBegin);
 
+    // The questions the windows put to the person at the screen; headless, every answer
+    // is Yes.
+    void setQuestion(Question& question);
+    // The main window's close box: during a game it asks first and leaves on Yes as Exit
+    // does; with no game on the board it leaves at once.
+    void closeMainWindow();
+
     // True from the moment the end of the program or a new game is asked for until it
     // has happened: waits return at once and no further computer turn starts.
     bool isWindingDown() const { return exitPending_ || newGamePending_; }
@@ -60,6 +69,8 @@ public:
     GameStart& gameStart() { return start_; }
     GameEnd& gameEnd() { return end_; }
     About_Help& about() { return about_; }
+    DebtHelp& debtHelp() { return debtHelp_; }
+    const DebtHelp& debtHelp() const { return debtHelp_; }
 
 private:
     // The supplied delay, skipped while the run winds down.
@@ -88,6 +99,9 @@ private:
     GameStart start_;
     GameEnd end_;
     About_Help about_;
+    ScriptedQuestion yesToAll_;
+    Question* question_ = &yesToAll_;
+    DebtHelp debtHelp_;
 
     int clickDepth_ = 0;
     bool exitPending_ = false;
