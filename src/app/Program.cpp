@@ -21,6 +21,7 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
     // Over the panel with a picture and no controls, under the emblem's place.
     debt_ = new view::DebtPanelView(main_->client(), QRect(592, 376, 186, 96), dispatch_,
                                     run.debtHelp());
+    history_ = std::make_unique<view::HistoryView>(dispatch_, run.history());
     if (delay) {
         dispatch_.setAfterClick([this, delay] {
             if (run_.isWindingDown()) delay->cutShort();
@@ -52,6 +53,7 @@ void Program::refreshAll() {
     end_->refresh();
     start_->refresh();
     debt_->refresh();
+    history_->refresh();
     main_->refresh();
     if (onRefreshed_) onRefreshed_();
 }

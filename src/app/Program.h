@@ -8,6 +8,7 @@
 #include "view/CardViews.h"
 #include "view/DebtPanelView.h"
 #include "view/Dispatch.h"
+#include "view/HistoryView.h"
 #include "view/MainWindowView.h"
 #include "view/StartEndViews.h"
 
@@ -39,6 +40,7 @@ public:
     view::GameEndView& endView() { return *end_; }
     view::AboutView& aboutView() { return *about_; }
     view::DebtPanelView& debtPanel() { return *debt_; }
+    view::HistoryView& historyView() { return *history_; }
 
 private:
     void scheduleRefresh();
@@ -54,6 +56,7 @@ private:
     std::unique_ptr<view::GameEndView> end_;
     std::unique_ptr<view::AboutView> about_;
     view::DebtPanelView* debt_ = nullptr;  // a child of the main window
+    std::unique_ptr<view::HistoryView> history_;
     bool refreshScheduled_ = false;
     std::function<void()> onRefreshed_;
     // Set while this object lives: a refresh queued from the event loop checks it.

@@ -114,6 +114,11 @@ void MainWindowView::buildMenus() {
     file->addSeparator();
     actions_["Exit"] = file->addAction(QStringLiteral("E&xit"), this,
                                        [this] { click([this] { model_.Exit_Click(); }); });
+    QMenu* view = menuBar()->addMenu(QStringLiteral("&View"));
+    actions_["History"] = view->addAction(QStringLiteral("&History"), this, [this] {
+        click([this] { dispatch_.run().history().History_Click(); });
+    });
+    actions_["History"]->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_H));
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
     actions_["About"] = help->addAction(QStringLiteral("&About"), this,
                                         [this] { click([this] { model_.About_Click(); }); });

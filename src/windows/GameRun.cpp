@@ -11,7 +11,13 @@ GameRun::GameRun(Sound& sound, Delay& delay, MessageBox& messages, std::unique_p
       board_(windows_, std::move(random)),
       start_(board_, sound, messages),
       end_(main_),
-      debtHelp_(main_, board_, yesToAll_) {
+      debtHelp_(main_, board_, yesToAll_),
+      history_(windows_.jflCard) {
+    rulesWindow_.addListener(history_);
+    main_.setOnChanged([this] {
+        history_.noteMessage(main_.Label1());
+        if (mainChanged_) mainChanged_();
+    });
     start_.setOnStart([this](const GameSetup& setup) { beginGame(setup); });
     main_.setOnExit([this] { requestExit(); });
     main_.setOnAbout([this] { about_.show(); });
@@ -26,10 +32,11 @@ void GameRun::start() {
 }
 
 void GameRun::setOnChanged(std::function<void()> hook) {
-    main_.setOnChanged(hook);
+    mainChanged_ = hook;
     windows_.setOnChanged(hook);
     start_.setOnChanged(hook);
     end_.setOnChanged(hook);
+    history_.setOnChanged(hook);
     about_.setOnChanged(std::move(hook));
 }
 
@@ -88,11 +95,13 @@ void GameRun::newGame() {
     main_.unload();
     end_.unload();
     about_.unload();
+    history_.close();
     start_.startNew();
 }
 
 void GameRun::beginGame(const GameSetup& setup) {
     board_.addPlayers(setup);
+    history_.begin(board_);
     if (onGameBegin_) onGameBegin_();
     main_.init(board_);
     main_.show();

@@ -13,6 +13,7 @@
 #include "windows/Delay.h"
 #include "windows/GameEnd.h"
 #include "windows/GameStart.h"
+#include "windows/History.h"
 #include "windows/MainWindow.h"
 #include "windows/MainWindowTee.h"
 #include "windows/MessageBox.h"
@@ -70,6 +71,8 @@ public:
     GameEnd& gameEnd() { return end_; }
     About_Help& about() { return about_; }
     DebtHelp& debtHelp() { return debtHelp_; }
+    History& history() { return history_; }
+    const History& history() const { return history_; }
     const DebtHelp& debtHelp() const { return debtHelp_; }
 
 private:
@@ -102,6 +105,7 @@ private:
     ScriptedQuestion yesToAll_;
     Question* question_ = &yesToAll_;
     DebtHelp debtHelp_;
+    History history_;
 
     int clickDepth_ = 0;
     bool exitPending_ = false;
@@ -109,6 +113,7 @@ private:
     bool exited_ = false;
     std::function<void()> onExit_;
     std::function<void()> onGameBegin_;
+    std::function<void()> mainChanged_;
 };
 
 }  // namespace gw
