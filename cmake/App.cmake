@@ -1,7 +1,7 @@
 # The desktop program: Qt views over the window models (src/view), the real delay, sound
 # and message boxes (src/app), the executable, its installed files and its tests.
 include(GNUInstallDirs)
-find_package(Qt6 REQUIRED COMPONENTS Widgets Multimedia)
+find_package(Qt6 REQUIRED COMPONENTS Widgets Multimedia TextToSpeech)
 
 # The pictures normally come from cmake/Art.cmake; without it the same sources are built here.
 if(NOT TARGET gildenway_art)
@@ -20,7 +20,8 @@ add_library(gildenway_view STATIC ${VIEW_SOURCES})
 set_target_properties(gildenway_view PROPERTIES AUTOMOC ON)
 target_include_directories(gildenway_view PUBLIC ${CMAKE_SOURCE_DIR}/src)
 target_link_libraries(gildenway_view PUBLIC gildenway_core gildenway_options
-                                            gildenway_art Qt6::Widgets Qt6::Multimedia)
+                                            gildenway_art Qt6::Widgets Qt6::Multimedia
+                                            Qt6::TextToSpeech)
 # Where an installed game finds its sounds.
 target_compile_definitions(gildenway_view PRIVATE
   GILDENWAY_DATA_DIR="${CMAKE_INSTALL_FULL_DATADIR}/gildenway")

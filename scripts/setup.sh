@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
 
 mode=${1:-play}
 packages=(cmake g++ make libgtest-dev libbenchmark-dev qt6-base-dev qt6-multimedia-dev
-    fonts-dejavu-core)
+    qt6-speech-dev qt6-speech-flite-plugin qt6-declarative-dev fonts-dejavu-core)
 
 missing=()
 for package in "${packages[@]}"; do

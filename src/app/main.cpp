@@ -13,6 +13,7 @@
 #include "app/QtMessageBox.h"
 #include "app/QtQuestion.h"
 #include "app/QtSound.h"
+#include "app/QtVoice.h"
 #include "view/Style.h"
 #include "windows/GameRun.h"
 
@@ -72,6 +73,8 @@ int main(int argc, char** argv) {
     run.setOnExit([] { QCoreApplication::exit(0); });
     gw::app::QtQuestion questions;
     run.setQuestion(questions);
+    gw::app::QtVoice voice;
+    run.setVoice(voice);
 
     run.start();
     gw::app::Program program(run, &delay);

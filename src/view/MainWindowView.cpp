@@ -107,10 +107,14 @@ void MainWindowView::buildMenus() {
                                         [this] { click([this] { model_.Mute_Click(); }); });
     actions_["Enable"] = sound->addAction(QStringLiteral("&Enable"), this,
                                           [this] { click([this] { model_.Enable_Click(); }); });
-    // The voice entries are there and do nothing: the game speaks no text.
+    // The voice reads the message line aloud; it is off until enabled.
     QMenu* voice = file->addMenu(QStringLiteral("&Voice"));
-    actions_["Mute1"] = voice->addAction(QStringLiteral("&Mute"));
-    actions_["Enable1"] = voice->addAction(QStringLiteral("&Enable"));
+    actions_["Mute1"] = voice->addAction(QStringLiteral("&Mute"), this, [this] {
+        click([this] { dispatch_.run().narrator().Mute1_Click(); });
+    });
+    actions_["Enable1"] = voice->addAction(QStringLiteral("&Enable"), this, [this] {
+        click([this] { dispatch_.run().narrator().Enable1_Click(); });
+    });
     file->addSeparator();
     actions_["Exit"] = file->addAction(QStringLiteral("E&xit"), this,
                                        [this] { click([this] { model_.Exit_Click(); }); });

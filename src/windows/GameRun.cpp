@@ -16,6 +16,7 @@ GameRun::GameRun(Sound& sound, Delay& delay, MessageBox& messages, std::unique_p
     rulesWindow_.addListener(history_);
     main_.setOnChanged([this] {
         history_.noteMessage(main_.Label1());
+        narrator_.noteMessage(main_.Label1());
         if (mainChanged_) mainChanged_();
     });
     start_.setOnStart([this](const GameSetup& setup) { beginGame(setup); });

@@ -17,8 +17,10 @@
 #include "windows/MainWindow.h"
 #include "windows/MainWindowTee.h"
 #include "windows/MessageBox.h"
+#include "windows/Narrator.h"
 #include "windows/Question.h"
 #include "windows/Sound.h"
+#include "windows/Voice.h"
 #include "windows/Windows.h"
 
 namespace gw {
@@ -52,6 +54,8 @@ public:
     // The questions the windows put to the person at the screen; headless, every answer
     // is Yes.
     void setQuestion(Question& question);
+    // The voice of File > Voice; headless, silence.
+    void setVoice(Voice& voice) { narrator_.setVoice(voice); }
     // The main window's close box: during a game it asks first and leaves on Yes as Exit
     // does; with no game on the board it leaves at once.
     void closeMainWindow();
@@ -72,6 +76,7 @@ public:
     About_Help& about() { return about_; }
     DebtHelp& debtHelp() { return debtHelp_; }
     History& history() { return history_; }
+    Narrator& narrator() { return narrator_; }
     const History& history() const { return history_; }
     const DebtHelp& debtHelp() const { return debtHelp_; }
 
@@ -106,6 +111,8 @@ private:
     Question* question_ = &yesToAll_;
     DebtHelp debtHelp_;
     History history_;
+    SilentVoice silence_;
+    Narrator narrator_{silence_};
 
     int clickDepth_ = 0;
     bool exitPending_ = false;
