@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QShortcut>
 
+#include "view/Keys.h"
 #include "view/Places.h"
 #include "windows/GameRun.h"
 #include "windows/MainWindow.h"
@@ -93,6 +94,12 @@ MainWindowView::MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints
         }
     }
     buildMenus();
+    addMnemonics(*this, *controls_,
+                 {{"rollDice", 'R'},
+                  {"endTurn", 'E'},
+                  {"pay50Rent", 'P'},
+                  {"useJFLCard", 'U'},
+                  {"declareBank", 'B'}});
     for (const QKeySequence& key :
          {QKeySequence(Qt::Key_Space), QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)}) {
         connect(new QShortcut(key, this), &QShortcut::activated, this,

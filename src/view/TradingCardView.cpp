@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "view/CardViews.h"
+#include "view/Keys.h"
 #include "windows/TradingCardWindow.h"
 
 namespace gw::view {
@@ -19,6 +20,8 @@ TradingCardView::TradingCardView(Dispatch& dispatch, TradingCardWindow& model)
     onClicked("wantMore", [this] { model_.wantMore_Click(); });
     onClicked("forgetIt", [this] { model_.forgetIt_Click(); });
     setOnCloseBox([this] { model_.close(); });
+    addMnemonics(*this, controls_,
+                 {{"doneDeal", 'D'}, {"wantIt", 'W'}, {"wantMore", 'M'}, {"forgetIt", 'F'}});
     if (QLineEdit* amount = controls_.entry("amount")) {
         amount->setMaxLength(static_cast<int>(TradingCardWindow::kAmountMaxLength));
         amount->installEventFilter(this);

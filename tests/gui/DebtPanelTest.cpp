@@ -100,5 +100,42 @@ TEST_F(DebtPanel, SpaceAndEnterPressTheOpenTurnButton) {
     }
 }
 
+// Alt+B is Declare Bankruptcy while it is open.
+TEST_F(DebtPanel, AltBDeclaresBankruptcyOnceItIsTheOnlyWayOut) {
+    view::MainWindowView& window = program().mainView();
+    QApplication::setActiveWindow(&window);
+    player& p = current();
+    QTest::keyClick(&window, Qt::Key_B, Qt::AltModifier);
+    gui.settle();
+    EXPECT_FALSE(p.isBankrupt2());
+    click([&] { p.debit(1560); });
+    ASSERT_TRUE(gui.run.mainWindow().declareBank().isOpen());
+    QTest::keyClick(&window, Qt::Key_B, Qt::AltModifier);
+    gui.settle();
+    EXPECT_TRUE(p.isBankrupt2());
+}
+
+// Escape closes a card that offers no button, and leaves one that does.
+TEST_F(DebtPanel, EscapeClosesACardWithNoOpenButton) {
+    view::CellInfoView& card = program().propertyCard();
+    click([&] { gui.run.mainWindow().cell_Click(39); });  // a card to read, no button
+    ASSERT_TRUE(card.isVisible());
+    QApplication::setActiveWindow(&card);
+    QTest::keyClick(&card, Qt::Key_Escape);
+    gui.settle();
+    EXPECT_FALSE(gui.run.windows().cellInfo.isVisible());
+
+    gui.run.board().getCurrPlayer().newlyOwn(*gui.run.board().getCell(39));
+    click([&] { gui.run.mainWindow().cell_Click(39); });  // own cell: Mortgage and Ok
+    ASSERT_TRUE(card.isVisible());
+    QApplication::setActiveWindow(&card);
+    QTest::keyClick(&card, Qt::Key_Escape);
+    gui.settle();
+    EXPECT_TRUE(gui.run.windows().cellInfo.isVisible());
+    QTest::keyClick(&card, Qt::Key_O, Qt::AltModifier);  // Ok
+    gui.settle();
+    EXPECT_FALSE(gui.run.windows().cellInfo.isVisible());
+}
+
 }  // namespace
 }  // namespace gw::test
