@@ -1,5 +1,6 @@
 #include "windows/RaisePlan.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "cells/PropertyCell.h"
@@ -64,7 +65,11 @@ public:
                 for (Integer h = 0; h < s->getHotelCount(); ++h) board_.streetAt(i)->addHotel();
             }
         }
-        self_->debit(subSat(kStartingBalance, original.getBalance()));
+        // In steps that each fit the 16-bit range, for a debt near its end.
+        while (self_->getBalance() > original.getBalance()) {
+            const int gap = self_->getBalance() - original.getBalance();
+            self_->debit(static_cast<Integer>(std::min(gap, 30000)));
+        }
         log_.steps.clear();
     }
 
