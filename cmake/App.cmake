@@ -1,7 +1,7 @@
 # The desktop program: Qt views over the window models (src/view), the real delay, sound
 # and message boxes (src/app), the executable, its installed files and its tests.
 include(GNUInstallDirs)
-find_package(Qt6 REQUIRED COMPONENTS Widgets Multimedia)
+find_package(Qt6 REQUIRED COMPONENTS Widgets Multimedia TextToSpeech)
 
 # The pictures normally come from cmake/Art.cmake; without it the same sources are built here.
 if(NOT TARGET gildenway_art)
@@ -21,7 +21,8 @@ set_target_properties(gildenway_view PROPERTIES AUTOMOC ON)
 target_include_directories(gildenway_view PUBLIC ${CMAKE_SOURCE_DIR}/src)
 # The simulator's end-state hash gives the last line of a run of computer players.
 target_link_libraries(gildenway_view PUBLIC gildenway_core gildenway_cli gildenway_sim gildenway_options
-                                            gildenway_art Qt6::Widgets Qt6::Multimedia)
+                                            gildenway_art Qt6::Widgets Qt6::Multimedia
+                                            Qt6::TextToSpeech)
 # Games install into <prefix>/games, as Debian keeps them; the game finds its sounds relative to
 # its own folder so that any prefix works.
 set(GILDENWAY_INSTALL_BINDIR games CACHE STRING "Folder of the installed program, under the prefix")

@@ -6,7 +6,8 @@ cd "$(dirname "$0")/.."
 
 mode=${1:-play}
 packages=(cmake g++ make libgtest-dev libbenchmark-dev qt6-base-dev qt6-multimedia-dev
-    fonts-dejavu-core qt6-svg-dev appstream desktop-file-utils dpkg-dev file lintian)
+    fonts-dejavu-core qt6-svg-dev appstream desktop-file-utils dpkg-dev file lintian
+    qt6-speech-dev qt6-speech-flite-plugin qt6-declarative-dev)
 
 missing=()
 for package in "${packages[@]}"; do

@@ -83,9 +83,8 @@ TEST_F(Trading, AmountBoxTakesAtMostFiveDigitsAndKeepsTheLastSumSelectedForRetyp
     offer("250");
     trading().forgetIt_Click();
     openTrade(15);
+    // The card opens with the last sum selected, so typing replaces it.
     EXPECT_EQ(trading().amountText(), "250");
-    EXPECT_FALSE(trading().amountSelected());
-    trading().amount_GotFocus();
     EXPECT_TRUE(trading().amountSelected());
     trading().typeKey('7');
     EXPECT_EQ(trading().amountText(), "7");

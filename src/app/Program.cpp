@@ -26,6 +26,10 @@ Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
     about_ = std::make_unique<view::AboutView>(dispatch_, run.about());
     story_ = std::make_unique<view::StoryView>(dispatch_, run);
     placeWindows();
+    // Over the panel with a picture and no controls, under the emblem's place.
+    debt_ = new view::DebtPanelView(main_->client(), QRect(592, 376, 186, 96), dispatch_,
+                                    run.debtHelp());
+    history_ = std::make_unique<view::HistoryView>(dispatch_, run.history());
     if (delay) {
         paceMenu_ = std::make_unique<view::PaceMenu>(*main_, delay->pacing());
         replayStop_ = std::make_unique<view::ReplayStop>(*main_, run, delay->pacing());
@@ -105,6 +109,8 @@ void Program::refreshAll() {
     end_->refresh();
     story_->refresh();
     start_->refresh();
+    debt_->refresh();
+    history_->refresh();
     main_->refresh();
     if (paceMenu_) paceMenu_->refresh();
     if (replayStop_) replayStop_->refresh();

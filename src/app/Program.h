@@ -7,7 +7,9 @@
 #include <memory>
 
 #include "view/CardViews.h"
+#include "view/DebtPanelView.h"
 #include "view/Dispatch.h"
+#include "view/HistoryView.h"
 #include "view/MainWindowView.h"
 #include "view/PaceMenu.h"
 #include "view/ReplayStop.h"
@@ -45,6 +47,8 @@ public:
     view::PaceMenu* paceMenu() { return paceMenu_.get(); }
     view::StoryView& storyView() { return *story_; }
     view::ReplayStop* replayStop() { return replayStop_.get(); }
+    view::DebtPanelView& debtPanel() { return *debt_; }
+    view::HistoryView& historyView() { return *history_; }
 
 protected:
     // The close box of the main window during a game watched again: the rest plays at
@@ -68,6 +72,8 @@ private:
     std::unique_ptr<view::PaceMenu> paceMenu_;
     std::unique_ptr<view::StoryView> story_;
     std::unique_ptr<view::ReplayStop> replayStop_;
+    view::DebtPanelView* debt_ = nullptr;  // a child of the main window
+    std::unique_ptr<view::HistoryView> history_;
     bool refreshScheduled_ = false;
     bool exitAfterReplay_ = false;
     std::function<void()> onRefreshed_;

@@ -13,7 +13,9 @@
 #include "app/Program.h"
 #include "app/QtDelay.h"
 #include "app/QtMessageBox.h"
+#include "app/QtQuestion.h"
 #include "app/QtSound.h"
+#include "app/QtVoice.h"
 #include "view/Style.h"
 #include "windows/GameRun.h"
 #include "windows/PacedSound.h"
@@ -98,12 +100,17 @@ int main(int argc, char** argv) {
     gw::app::QtMessageBox messages;
     gw::GameRun run(pacedSound, delay, messages, randomSource(options));
     run.setOnExit([] { QCoreApplication::exit(0); });
+    gw::app::QtQuestion questions;
+    run.setQuestion(questions);
+    gw::app::QtVoice voice;
+    run.setVoice(voice);
 
     run.start();
     gw::app::Program program(run, &delay);
     messages.setParent([&program] { return &program.startView(); });
     // The board opens at the largest size at which it shows whole on the screen.
     program.mainView().zoomTo(program.mainView().screenFit());
+    questions.setParent([&program] { return &program.mainView(); });
     program.refreshAll();
 
     const bool leaveLater = options.closeAfterMs > 0;
@@ -134,6 +141,13 @@ int main(int argc, char** argv) {
             if (options.leaveBy == gw::app::Options::Leave::FileExit) {
                 program.mainView().action("Exit").trigger();
             } else {
+                // The close box asks during a game: the answer is Yes, given by pressing
+                // the box's button once it is up.
+                auto* answer = new QTimer(&app);
+                QObject::connect(answer, &QTimer::timeout, answer, [answer] {
+                    if (gw::app::answerYesToQuestion()) answer->deleteLater();
+                });
+                answer->start(10);
                 program.mainView().close();
             }
         });

@@ -1,5 +1,6 @@
 // The property card: twelve faces, ten printed values, eleven buttons in two layouts.
 #include "view/CardViews.h"
+#include "view/Keys.h"
 #include "windows/CellInfoWindow.h"
 
 namespace gw::view {
@@ -22,6 +23,18 @@ CellInfoView::CellInfoView(Dispatch& dispatch, CellInfoWindow& model)
     onClicked("buyHotel", [this] { model_.buyHotel_Click(); });
     onClicked("sellHotel", [this] { model_.sellHotel_Click(); });
     setOnCloseBox([this] { model_.close(); });
+    addMnemonics(*this, controls_,
+                 {{"buy", 'B'},
+                  {"forget", 'F'},
+                  {"payRent", 'P'},
+                  {"trade", 'T'},
+                  {"Ok(0)", 'O'},
+                  {"Ok(1)", 'O'},
+                  {"Mortgage(0)", 'M'},
+                  {"Mortgage(1)", 'M'},
+                  {"Unmortgage", 'U'},
+                  {"buyHotel", 'H'},
+                  {"sellHotel", 'S'}});
 }
 
 void CellInfoView::refresh() {

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QLineEdit>
 
+#include "art/Tokens.h"
 #include "view/StartEndViews.h"
 
 namespace gw::view {
@@ -39,6 +40,8 @@ GameStartView::GameStartView(Dispatch& dispatch, GameStart& model)
     }
     image(1).setClickable(true);
     image(4).setClickable(true);
+    image(1).setAccessibleName(QStringLiteral("Computer player"));
+    image(4).setAccessibleName(QStringLiteral("Human player"));
     connect(&image(1), &PictureWidget::clicked, this,
             [this] { dispatch_.click([this] { model_.Image1_Click(); }); });
     connect(&image(4), &PictureWidget::clicked, this,
@@ -49,6 +52,7 @@ GameStartView::GameStartView(Dispatch& dispatch, GameStart& model)
         picture->setObjectName(QStringLiteral("Token%1").arg(i));
         picture->setGeometry(tokenPlace(i));
         picture->setClickable(i < kFirstSlot);
+        if (i < kFirstSlot) picture->setAccessibleName(art::tokenName(i));
         connect(picture, &PictureWidget::clicked, this,
                 [this, i] { dispatch_.click([this, i] { model_.Token_Click(i); }); });
         tokens_[static_cast<std::size_t>(i)] = picture;

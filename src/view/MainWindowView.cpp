@@ -6,8 +6,11 @@
 #include <QResizeEvent>
 #include <QScreen>
 #include <cmath>
+#include <QShortcut>
 
+#include "view/Keys.h"
 #include "view/Places.h"
+#include "windows/GameRun.h"
 #include "windows/MainWindow.h"
 
 namespace gw::view {
@@ -99,6 +102,17 @@ MainWindowView::MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints
     }
     buildMenus();
     resize(kClient.width(), kClient.height() + menuBar()->sizeHint().height());
+    addMnemonics(*this, *controls_,
+                 {{"rollDice", 'R'},
+                  {"endTurn", 'E'},
+                  {"pay50Rent", 'P'},
+                  {"useJFLCard", 'U'},
+                  {"declareBank", 'B'}});
+    for (const QKeySequence& key :
+         {QKeySequence(Qt::Key_Space), QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)}) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this,
+                [this] { click([this] { model_.turnKey_Press(); }); });
+    }
 }
 
 void MainWindowView::buildMenus() {
@@ -108,10 +122,14 @@ void MainWindowView::buildMenus() {
                                         [this] { click([this] { model_.Mute_Click(); }); });
     actions_["Enable"] = sound->addAction(QStringLiteral("&Enable"), this,
                                           [this] { click([this] { model_.Enable_Click(); }); });
-    // The voice entries are there and do nothing: the game speaks no text.
+    // The voice reads the message line aloud; it is off until enabled.
     QMenu* voice = file->addMenu(QStringLiteral("&Voice"));
-    actions_["Mute1"] = voice->addAction(QStringLiteral("&Mute"));
-    actions_["Enable1"] = voice->addAction(QStringLiteral("&Enable"));
+    actions_["Mute1"] = voice->addAction(QStringLiteral("&Mute"), this, [this] {
+        click([this] { dispatch_.run().narrator().Mute1_Click(); });
+    });
+    actions_["Enable1"] = voice->addAction(QStringLiteral("&Enable"), this, [this] {
+        click([this] { dispatch_.run().narrator().Enable1_Click(); });
+    });
     file->addSeparator();
     actions_["Exit"] = file->addAction(QStringLiteral("E&xit"), this,
                                        [this] { click([this] { model_.Exit_Click(); }); });
@@ -123,6 +141,10 @@ void MainWindowView::buildMenus() {
     }
     actions_["Fit"] =
         view->addAction(QStringLiteral("&Fit"), this, [this] { zoomTo(screenFit()); });
+    actions_["History"] = view->addAction(QStringLiteral("&History"), this, [this] {
+        click([this] { dispatch_.run().history().History_Click(); });
+    });
+    actions_["History"]->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_H));
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
     actions_["About"] = help->addAction(QStringLiteral("&About"), this,
                                         [this] { click([this] { model_.About_Click(); }); });
@@ -202,9 +224,9 @@ void MainWindowView::refresh() {
 }
 
 void MainWindowView::closeEvent(QCloseEvent* event) {
-    // Closing the window is leaving the program, as File > Exit is.
+    // Closing the window is leaving the program, after a question during a game.
     event->ignore();
-    click([this] { model_.Exit_Click(); });
+    click([this] { dispatch_.run().closeMainWindow(); });
 }
 
 }  // namespace gw::view

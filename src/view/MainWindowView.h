@@ -26,6 +26,8 @@ public:
     static constexpr const char* kOpenWhileCardUp = "openWhileCardUp";
     const ControlSet& controls() const { return *controls_; }
     BoardWidget& board() { return *board_; }
+    // The area under the menu bar, where the board and the panels lie.
+    QWidget& client() const { return *client_; }
     QAction& action(std::string_view name) const;
     // Where on the screen a card may open: the board, and what it must leave clear.
     CardRoom cardRoom() const;

@@ -99,6 +99,7 @@ constexpr std::array kPropertyCard = {
     row("Unmortgage", K::Button, 360, 3720, 1095, 495, kCentre, 11),
     row("buyHotel", K::Button, 120, 3720, 855, 255, kCentre, 10),
     row("sellHotel", K::Button, 120, 3960, 855, 255, kCentre, 10),
+    row("payTo", K::Label, 240, 4215, 2535, 240, kCentre, 11),
 };
 
 constexpr std::array kTradingCard = {

@@ -1,5 +1,6 @@
 // The JFL card, which shows a drawn card's text, and the tax card, which takes the tax.
 #include "view/CardViews.h"
+#include "view/Keys.h"
 #include "windows/JFLCardWindow.h"
 #include "windows/taxCellWindow.h"
 
@@ -12,6 +13,7 @@ JFLCardView::JFLCardView(Dispatch& dispatch, JFLCardWindow& model)
     background_->setPaint(
         [](QPainter& p, const QRectF&) { paintJflCard(p, QRectF(-5, -2, 223, 295)); });
     onClicked("Ok", [this] { model_.Ok_Click(); });
+    addMnemonics(*this, controls_, {{"Ok", 'O'}});
     setOnCloseBox([this] { model_.close(); });
 }
 
@@ -28,6 +30,7 @@ TaxCardView::TaxCardView(Dispatch& dispatch, taxCellWindow& model)
         paintTaxCard(p, QRectF(-8, 0, 223, 295), model_.picture());
     });
     onClicked("payRent", [this] { model_.payRent_Click(); });
+    addMnemonics(*this, controls_, {{"payRent", 'P'}});
     setOnCloseBox([this] { model_.close(); });
 }
 

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "view/CardViews.h"
+#include "view/Keys.h"
 #include "windows/TradingCardWindow.h"
 
 namespace gw::view {
@@ -20,6 +21,8 @@ TradingCardView::TradingCardView(Dispatch& dispatch, TradingCardWindow& model)
     onClicked("wantMore", [this] { model_.wantMore_Click(); });
     onClicked("forgetIt", [this] { model_.forgetIt_Click(); });
     setOnCloseBox([this] { model_.close(); });
+    addMnemonics(*this, controls_,
+                 {{"doneDeal", 'D'}, {"wantIt", 'W'}, {"wantMore", 'M'}, {"forgetIt", 'F'}});
     if (QLineEdit* amount = controls_.entry("amount")) {
         amount->setMaxLength(static_cast<int>(TradingCardWindow::kAmountMaxLength));
         amount->installEventFilter(this);
@@ -44,6 +47,13 @@ bool TradingCardView::eventFilter(QObject* watched, QEvent* event) {
         QMetaObject::invokeMethod(amount, &QLineEdit::selectAll, Qt::QueuedConnection);
         return false;
     }
+    // A click into a box that has the focus already raises no focus event: the release,
+    // after the press has placed the cursor, selects the sum all the same.
+    if (event->type() == QEvent::MouseButtonRelease) {
+        dispatch_.click([this] { model_.amount_Click(); });
+        refresh();
+        return false;
+    }
     if (event->type() == QEvent::KeyPress) {
         auto* key = static_cast<QKeyEvent*>(event);
         const QString text = key->text();
@@ -66,8 +76,13 @@ void TradingCardView::refresh() {
     controls_.apply("Label4", model_.Label4());
     controls_.apply("amount", Control{true, true, model_.amountText()});
     controls_.apply(model_);
-    if (QLineEdit* amount = controls_.entry("amount"))
-        amount->setCursorPosition(amount->text().size());
+    if (QLineEdit* amount = controls_.entry("amount")) {
+        if (model_.amountSelected()) {
+            amount->selectAll();
+        } else {
+            amount->setCursorPosition(static_cast<int>(amount->text().size()));
+        }
+    }
     background_->update();
     followVisibility(model_.isVisible());
 }

@@ -2,6 +2,9 @@
 
 #include <QAbstractButton>
 #include <QCloseEvent>
+#include <QShortcut>
+
+#include "view/Keys.h"
 
 namespace gw::view {
 
@@ -15,6 +18,10 @@ WindowView::WindowView(Dispatch& dispatch, const QString& title, QSize client,
     setFixedSize(client);
     background_->setGeometry(0, 0, client.width(), client.height());
     background_->lower();
+    // Escape is the close box of a window that offers no button to leave by.
+    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, [this] {
+        if (onCloseBox_ && !hasOpenButton(*this)) dispatch_.click(onCloseBox_);
+    });
 }
 
 void WindowView::onClicked(std::string_view name, std::function<void()> handler) {

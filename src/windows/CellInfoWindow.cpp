@@ -73,7 +73,7 @@ void CellInfoWindow::takeCard(Integer iId, Integer opt, player& p, const std::st
 
 void CellInfoWindow::hideAllButtons() {
     for (Control* c : {&trade_, &buy_, &forget_, &payRent_, &buyHotel_, &sellHotel_, &mortgage_[0],
-                       &mortgage_[1], &ok_[0], &ok_[1], &unmortgage_}) {
+                       &mortgage_[1], &ok_[0], &ok_[1], &unmortgage_, &payTo_}) {
         c->hide();
     }
     buyHotel_.enable(false);
@@ -90,6 +90,9 @@ void CellInfoWindow::offerPurchase(bool human) {
 void CellInfoWindow::demandRent(bool human) {
     player& p = *cardPlayer_;
     payRent_.show();
+    payTo_.show();
+    // The card of a landing carries no owner's name: the payee is said here.
+    if (ownerWhenShown_ != nullptr) payTo_.caption = "Rent goes to " + ownerWhenShown_->getName();
     const Integer shortfall = p.canPayRent(cardId_);
     if (shortfall != 0) {
         windows_.main.showInfo("You cannot pay the rent, you must get $" +
@@ -295,6 +298,7 @@ void CellInfoWindow::forEachControl(const ControlVisitor& fn) const {
     fn("Unmortgage", unmortgage_);
     fn("buyHotel", buyHotel_);
     fn("sellHotel", sellHotel_);
+    fn("payTo", payTo_);
 }
 
 }  // namespace gw

@@ -66,6 +66,8 @@ public:
     const Control& Unmortgage() const { return unmortgage_; }
     const Control& buyHotel() const { return buyHotel_; }
     const Control& sellHotel() const { return sellHotel_; }
+    // On a rent card, whom the rent goes to.
+    const Control& payTo() const { return payTo_; }
 
 private:
     // The label numbers that carry a value: a street's eight, the other kinds' three.
@@ -116,6 +118,7 @@ private:
     Control unmortgage_{true, true, "Unmortgage"};
     Control buyHotel_{true, true, "Buy Hotel"};
     Control sellHotel_{true, true, "Sell Hotel"};
+    Control payTo_{false, true, ""};
 };
 
 }  // namespace gw

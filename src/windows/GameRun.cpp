@@ -26,8 +26,16 @@ GameRun::GameRun(Sound& sound, Delay& delay, MessageBox& messages, std::unique_p
       windows_(rulesWindow_, sound, delay_),
       board_(windows_, withMemory(std::move(random), random_)),
       start_(board_, sound, messages),
-      end_(main_) {
+      end_(main_),
+      debtHelp_(main_, board_, yesToAll_),
+      history_(windows_.jflCard) {
     rulesWindow_.setWatcher(&storyWindow_);
+    rulesWindow_.addListener(history_);
+    main_.setOnChanged([this] {
+        history_.noteMessage(main_.Label1());
+        narrator_.noteMessage(main_.Label1());
+        if (mainChanged_) mainChanged_();
+    });
     start_.setOnStart([this](const GameSetup& setup) { beginGame(setup); });
     main_.setOnExit([this] { requestExit(); });
     main_.setOnAbout([this] { about_.show(); });
@@ -49,11 +57,22 @@ void GameRun::start() {
 }
 
 void GameRun::setOnChanged(std::function<void()> hook) {
-    main_.setOnChanged(hook);
+    mainChanged_ = hook;
     windows_.setOnChanged(hook);
     start_.setOnChanged(hook);
     end_.setOnChanged(hook);
+    history_.setOnChanged(hook);
     about_.setOnChanged(std::move(hook));
+}
+
+void GameRun::setQuestion(Question& question) {
+    question_ = &question;
+    debtHelp_.setQuestion(question);
+}
+
+void GameRun::closeMainWindow() {
+    if (main_.isVisible() && !question_->ask("Gildenway", "Leave the game in progress?")) return;
+    requestExit();
 }
 
 void GameRun::watchMainWindow(MainWindowPort& watcher, std::function<void()> onGameBegin) {
@@ -154,6 +173,7 @@ void GameRun::newGame() {
     end_.unload();
     about_.unload();
     random_->record();
+    history_.close();
     start_.startNew();
 }
 
@@ -165,6 +185,7 @@ void GameRun::beginGame(const GameSetup& setup) {
     recording_ = true;
     computerTurns_ = 0;
     story_.begin(board_);
+    history_.begin(board_);
     if (onGameBegin_) onGameBegin_();
     main_.init(board_);
     main_.show();

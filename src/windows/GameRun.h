@@ -10,15 +10,20 @@
 
 #include "game/Board.h"
 #include "game/Random.h"
+#include "windows/DebtHelp.h"
 #include "windows/Delay.h"
 #include "windows/GameEnd.h"
 #include "windows/GameStart.h"
 #include "windows/GameStory.h"
+#include "windows/History.h"
 #include "windows/MainWindow.h"
 #include "windows/MainWindowTee.h"
 #include "windows/MessageBox.h"
+#include "windows/Narrator.h"
+#include "windows/Question.h"
 #include "windows/ReplayRandom.h"
 #include "windows/Sound.h"
+#include "windows/Voice.h"
 #include "windows/Windows.h"
 
 namespace gw {
@@ -58,6 +63,15 @@ public:
     bool isReplaying() const { return replaying_; }
     void setOnReplay(std::function<void(bool)> hook) { onReplay_ = std::move(hook); }
 
+    // The questions the windows put to the person at the screen; headless, every answer
+    // is Yes.
+    void setQuestion(Question& question);
+    // The voice of File > Voice; headless, silence.
+    void setVoice(Voice& voice) { narrator_.setVoice(voice); }
+    // The main window's close box: during a game it asks first and leaves on Yes as Exit
+    // does; with no game on the board it leaves at once.
+    void closeMainWindow();
+
     // True from the moment the end of the program or a new game is asked for until it
     // has happened: waits return at once and no further computer turn starts.
     bool isWindingDown() const { return exitPending_ || newGamePending_; }
@@ -76,6 +90,11 @@ public:
     GameStart& gameStart() { return start_; }
     GameEnd& gameEnd() { return end_; }
     About_Help& about() { return about_; }
+    DebtHelp& debtHelp() { return debtHelp_; }
+    History& history() { return history_; }
+    Narrator& narrator() { return narrator_; }
+    const History& history() const { return history_; }
+    const DebtHelp& debtHelp() const { return debtHelp_; }
 
 private:
     // The supplied delay, skipped while the run winds down.
@@ -115,6 +134,12 @@ private:
     GameStart start_;
     GameEnd end_;
     About_Help about_;
+    ScriptedQuestion yesToAll_;
+    Question* question_ = &yesToAll_;
+    DebtHelp debtHelp_;
+    History history_;
+    SilentVoice silence_;
+    Narrator narrator_{silence_};
 
     int clickDepth_ = 0;
     bool exitPending_ = false;
@@ -132,6 +157,7 @@ private:
     std::function<void(bool)> onReplay_;
     std::function<void()> onExit_;
     std::function<void()> onGameBegin_;
+    std::function<void()> mainChanged_;
 };
 
 }  // namespace gw

@@ -310,6 +310,14 @@ void MainWindow::declareBank_Click() {
     runTurnButton(declareBank_, [this] { current().declareBankruptcy(); });
 }
 
+void MainWindow::turnKey_Press() {
+    if (rollDice_.isOpen()) {
+        rollDice_Click();
+    } else if (endTurn_.isOpen()) {
+        endTurn_Click();
+    }
+}
+
 void MainWindow::cell_Click(Integer Index) {
     if (board_ == nullptr || !enabled_) return;
     player& p = current();

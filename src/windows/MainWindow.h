@@ -99,6 +99,8 @@ public:
     void useJFLCard_Click();
     void declareBank_Click();
     void cell_Click(Integer Index);
+    // Space or Enter on the window: whichever of Roll Dice and End Turn is open.
+    void turnKey_Press();
     void Mute_Click();
     void Enable_Click();
     void setOnExit(std::function<void()> hook) { onExit_ = std::move(hook); }

@@ -3,6 +3,8 @@
 // through the windows without standing in for the window.
 #pragma once
 
+#include <vector>
+
 #include "windows/MainWindowPort.h"
 
 namespace gw {
@@ -11,6 +13,8 @@ class MainWindowTee final : public MainWindowPort {
 public:
     explicit MainWindowTee(MainWindowPort& window) : window_(window) {}
     void setWatcher(MainWindowPort* watcher) { watcher_ = watcher; }
+    // A listener of the program's own that hears every call after the watcher.
+    void addListener(MainWindowPort& listener) { listeners_.push_back(&listener); }
 
     void showInfo(std::string_view msg) override {
         both([&](MainWindowPort& w) { w.showInfo(msg); });
@@ -60,10 +64,12 @@ private:
     void both(const Call& call) {
         call(window_);
         if (watcher_ != nullptr) call(*watcher_);
+        for (MainWindowPort* listener : listeners_) call(*listener);
     }
 
     MainWindowPort& window_;
     MainWindowPort* watcher_ = nullptr;
+    std::vector<MainWindowPort*> listeners_;
 };
 
 }  // namespace gw

@@ -29,6 +29,7 @@ void TradingCardWindow::proposeTrade(Integer iId, player& buyer, const std::stri
     labels_[1] = sStreetName;
     labels_[2] = sOwner;
     labels_[3] = buyer.getName();
+    amountSelected_ = true;
     setVisible(true);
 }
 
@@ -47,6 +48,7 @@ void TradingCardWindow::seeTrade(Integer iId, player& owner, Integer iAmount) {
     forgetIt_.enable(ownerHuman);
     face_ = TradeFace::Owner;
     label4_.caption = std::to_string(iAmount);
+    amountSelected_ = true;
     setVisible(true);
 }
 

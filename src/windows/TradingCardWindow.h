@@ -33,9 +33,11 @@ public:
     void wantIt_Click();
     void wantMore_Click();
 
-    // The amount box. Focus selects the whole text, so typing replaces it; the key filter
-    // lets the digits through and drops every other key, Backspace and minus included.
-    void amount_GotFocus() { amountSelected_ = true; }
+    // The amount box. Focus, a click into it and the card opening or turning to its other
+    // face select the whole text, so typing replaces it however the focus moved; the key
+    // filter lets the digits through and drops every other key, Backspace and minus included.
+    void amount_GotFocus() { selectAmount(); }
+    void amount_Click() { selectAmount(); }
     static bool amount_KeyPress(char key) { return key >= '0' && key <= '9'; }
     // Types one key into the box as the text box would: filtered, then replacing the
     // selection or appended while the box has room.
@@ -69,6 +71,10 @@ public:
 
 private:
     void hide() { setVisible(false); }
+    void selectAmount() {
+        amountSelected_ = true;
+        changed();
+    }
     // The offer still stands: both parties are in the game and the cell is still the
     // owner's. Otherwise a click only closes the card.
     bool stillHolds() const;

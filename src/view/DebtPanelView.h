@@ -1,0 +1,37 @@
+// The word to a human in debt, drawn over the main window's free panel, with the button
+// that raises the sum as a computer would. Hidden while nobody at the screen owes money.
+#pragma once
+
+#include <QWidget>
+
+#include "view/Dispatch.h"
+
+class QLabel;
+class QPushButton;
+
+namespace gw {
+class DebtHelp;
+}
+
+namespace gw::view {
+
+class DebtPanelView final : public QWidget {
+    Q_OBJECT
+public:
+    DebtPanelView(QWidget& parent, const QRect& place, Dispatch& dispatch, DebtHelp& model);
+
+    void refresh();
+    QLabel& line() const { return *line_; }
+    QPushButton& raiseForMe() const { return *raise_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Dispatch& dispatch_;
+    DebtHelp& model_;
+    QLabel* line_;
+    QPushButton* raise_;
+};
+
+}  // namespace gw::view

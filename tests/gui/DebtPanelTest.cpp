@@ -1,0 +1,141 @@
+// The debt panel and the close box through the real widgets: the line and the hand's
+// button come up over the free panel, the hand asks, and the close box asks in a game.
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "GuiRun.h"
+#include "game/Board.h"
+#include "windows/Question.h"
+
+namespace gw::test {
+namespace {
+
+class DebtPanel : public ::testing::Test {
+protected:
+    DebtPanel() : gui(std::make_unique<SeededRandom>(5)) {
+        gui.run.setQuestion(question);
+        click([&] {
+            GameStart& start = gui.run.gameStart();
+            for (const char* name : {"Ann", "Bob"}) {
+                start.NickName_Change(name);
+                start.Token_Click(name[0] == 'A' ? 1 : 2);
+                start.NickName_Change(name);
+                start.Command1_Click();
+            }
+            start.Command2_Click();
+        });
+        EXPECT_TRUE(program().mainView().isVisible());
+    }
+    void click(const std::function<void()>& handler) {
+        program().dispatch().click(handler);
+        gui.settle();
+    }
+    app::Program& program() { return *gui.program; }
+    player& current() { return gui.run.board().getCurrPlayer(); }
+
+    ScriptedQuestion question;
+    GuiRun gui;
+};
+
+TEST_F(DebtPanel, TheLineAndTheHandComeAndGoWithTheDebt) {
+    view::DebtPanelView& panel = program().debtPanel();
+    EXPECT_FALSE(panel.isVisible());
+    player& p = current();
+    p.newlyOwn(*gui.run.board().getCell(12));
+    click([&] { p.debit(1560); });  // 60 short; the utility's mortgage brings 100
+    ASSERT_TRUE(panel.isVisible());
+    EXPECT_EQ(panel.line().text().toStdString(),
+              p.getName() +
+                  ", you are $60 short. Click your cells to mortgage them or sell hotels, or "
+                  "Declare Bankruptcy.");
+    ASSERT_TRUE(panel.raiseForMe().isVisible());
+    EXPECT_EQ(panel.raiseForMe().text(), QStringLiteral("Raise $60 for me"));
+    savePictures(program().mainView(), "debt-panel");
+
+    question.answers = {false};
+    clickOn(panel.raiseForMe());
+    gui.settle();
+    EXPECT_EQ(p.getBalance(), -60);
+    EXPECT_TRUE(panel.isVisible());
+
+    clickOn(panel.raiseForMe());
+    gui.settle();
+    EXPECT_EQ(p.getBalance(), 40);
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_EQ(question.asked.size(), 2U);
+}
+
+TEST_F(DebtPanel, TheCloseBoxAsksAndNoPlaysOn) {
+    question.answers = {false};
+    program().mainView().close();
+    gui.settle();
+    EXPECT_FALSE(gui.exited);
+    EXPECT_TRUE(program().mainView().isVisible());
+    program().mainView().close();
+    gui.settle();
+    EXPECT_TRUE(gui.exited);
+    EXPECT_EQ(question.asked, (std::vector<std::string>{"Leave the game in progress?",
+                                                        "Leave the game in progress?"}));
+}
+
+// Space throws while Roll Dice is open, Enter ends the turn once End Turn is.
+TEST_F(DebtPanel, SpaceAndEnterPressTheOpenTurnButton) {
+    view::MainWindowView& window = program().mainView();
+    QApplication::setActiveWindow(&window);
+    const std::string first = current().getName();
+    ASSERT_TRUE(gui.run.mainWindow().rollDice().isOpen());
+    QTest::keyClick(&window, Qt::Key_Space);
+    gui.settle();
+    EXPECT_NE(gui.run.mainWindow().dieFace1(), 0);
+    if (gui.run.windows().cellInfo.isVisible()) {
+        click([&] { gui.run.windows().cellInfo.close(); });
+    }
+    if (gui.run.mainWindow().endTurn().isOpen() && current().getDoubleCount() == 0 &&
+        current().getDidAction()) {
+        QTest::keyClick(&window, Qt::Key_Return);
+        gui.settle();
+        EXPECT_NE(current().getName(), first);
+    }
+}
+
+// Alt+B is Declare Bankruptcy while it is open.
+TEST_F(DebtPanel, AltBDeclaresBankruptcyOnceItIsTheOnlyWayOut) {
+    view::MainWindowView& window = program().mainView();
+    QApplication::setActiveWindow(&window);
+    player& p = current();
+    QTest::keyClick(&window, Qt::Key_B, Qt::AltModifier);
+    gui.settle();
+    EXPECT_FALSE(p.isBankrupt2());
+    click([&] { p.debit(1560); });
+    ASSERT_TRUE(gui.run.mainWindow().declareBank().isOpen());
+    QTest::keyClick(&window, Qt::Key_B, Qt::AltModifier);
+    gui.settle();
+    EXPECT_TRUE(p.isBankrupt2());
+}
+
+// Escape closes a card that offers no button, and leaves one that does.
+TEST_F(DebtPanel, EscapeClosesACardWithNoOpenButton) {
+    view::CellInfoView& card = program().propertyCard();
+    click([&] { gui.run.mainWindow().cell_Click(39); });  // a card to read, no button
+    ASSERT_TRUE(card.isVisible());
+    QApplication::setActiveWindow(&card);
+    QTest::keyClick(&card, Qt::Key_Escape);
+    gui.settle();
+    EXPECT_FALSE(gui.run.windows().cellInfo.isVisible());
+
+    gui.run.board().getCurrPlayer().newlyOwn(*gui.run.board().getCell(39));
+    click([&] { gui.run.mainWindow().cell_Click(39); });  // own cell: Mortgage and Ok
+    ASSERT_TRUE(card.isVisible());
+    QApplication::setActiveWindow(&card);
+    QTest::keyClick(&card, Qt::Key_Escape);
+    gui.settle();
+    EXPECT_TRUE(gui.run.windows().cellInfo.isVisible());
+    QTest::keyClick(&card, Qt::Key_O, Qt::AltModifier);  // Ok
+    gui.settle();
+    EXPECT_FALSE(gui.run.windows().cellInfo.isVisible());
+}
+
+}  // namespace
+}  // namespace gw::test
