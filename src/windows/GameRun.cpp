@@ -123,6 +123,7 @@ void GameRun::watchAgain() {
     board_.addPlayers(setup_);
     computerTurns_ = 0;
     story_.begin(board_);
+    history_.begin(board_);  // the old players are gone; the history follows the game anew
     waitsStarted_ = 0;
     nextClick_ = 0;
     main_.init(board_);

@@ -103,7 +103,8 @@ private:
 };
 
 TEST(CardPlacement, EveryCardOfAComputersGameBelongsToTheMainWindowAndLeavesItsButtonsClear) {
-    GuiRun gui(std::make_unique<SeededRandom>(11), 0);
+    // 1 ms ticks: each wait serves the window system, so the views refresh while cards are up.
+    GuiRun gui(std::make_unique<SeededRandom>(11), 1);
     CardWatch watch(gui);
     gui.program->setOnRefreshed([&] { watch.look(); });
     app::seatComputers(gui.program->dispatch(), gui.run, 2);
