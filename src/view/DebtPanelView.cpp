@@ -1,18 +1,26 @@
 #include "view/DebtPanelView.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "art/Palette.h"
 #include "windows/DebtHelp.h"
 
 namespace gw::view {
 
+namespace {
+// The main window's client area at 100 %; the panel keeps its place and type in proportion.
+constexpr qreal kDesignClientWidth = 778;
+constexpr int kDesignTextPx = 10;
+}  // namespace
+
 DebtPanelView::DebtPanelView(QWidget& parent, const QRect& place, Dispatch& dispatch,
                              DebtHelp& model)
-    : QWidget(&parent), dispatch_(dispatch), model_(model) {
+    : QWidget(&parent), dispatch_(dispatch), model_(model), place_(place) {
     setGeometry(place);
     setObjectName(QStringLiteral("debtPanel"));
     auto* layout = new QVBoxLayout(this);
@@ -22,7 +30,7 @@ DebtPanelView::DebtPanelView(QWidget& parent, const QRect& place, Dispatch& disp
     line_->setWordWrap(true);
     line_->setAlignment(Qt::AlignCenter);
     QFont small = line_->font();
-    small.setPixelSize(10);
+    small.setPixelSize(kDesignTextPx);
     line_->setFont(small);
     line_->setStyleSheet(QStringLiteral("color: #2A2A2E; background: transparent;"));
     raise_ = new QPushButton(this);
@@ -32,6 +40,23 @@ DebtPanelView::DebtPanelView(QWidget& parent, const QRect& place, Dispatch& disp
     connect(raise_, &QPushButton::clicked, this,
             [this] { dispatch_.click([this] { model_.raiseForMe_Click(); }); });
     hide();
+    parent.installEventFilter(this);
+}
+
+bool DebtPanelView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parentWidget() && event->type() == QEvent::Resize) {
+        followScale(parentWidget()->width() / kDesignClientWidth);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void DebtPanelView::followScale(qreal scale) {
+    setGeometry(qRound(place_.x() * scale), qRound(place_.y() * scale),
+                qRound(place_.width() * scale), qRound(place_.height() * scale));
+    QFont font = line_->font();
+    font.setPixelSize(std::max(7, qRound(kDesignTextPx * scale)));
+    line_->setFont(font);
+    raise_->setFont(font);
 }
 
 void DebtPanelView::refresh() {

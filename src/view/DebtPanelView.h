@@ -26,12 +26,17 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    // Follows the main window's zoom: the parent is resized whenever the scale changes.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void followScale(qreal scale);
+
     Dispatch& dispatch_;
     DebtHelp& model_;
     QLabel* line_;
     QPushButton* raise_;
+    QRect place_;  // at 100 %
 };
 
 }  // namespace gw::view

@@ -53,6 +53,12 @@ TEST_F(DebtPanel, TheLineAndTheHandComeAndGoWithTheDebt) {
     ASSERT_TRUE(panel.raiseForMe().isVisible());
     EXPECT_EQ(panel.raiseForMe().text(), QStringLiteral("Raise $60 for me"));
     savePictures(program().mainView(), "debt-panel");
+    program().mainView().zoomTo(1.5);  // the panel keeps its place over the free panel
+    gui.settle();
+    EXPECT_EQ(panel.geometry(), QRect(888, 564, 279, 144));
+    program().mainView().zoomTo(1);
+    gui.settle();
+    EXPECT_EQ(panel.geometry(), QRect(592, 376, 186, 96));
 
     question.answers = {false};
     clickOn(panel.raiseForMe());
