@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "art/Palette.h"
+#include "view/FitLabel.h"
 #include "windows/DebtHelp.h"
 
 namespace gw::view {
@@ -26,12 +27,11 @@ DebtPanelView::DebtPanelView(QWidget& parent, const QRect& place, Dispatch& disp
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 4, 6, 4);
     layout->setSpacing(2);
-    line_ = new QLabel(this);
-    line_->setWordWrap(true);
+    // A long name and a large debt wrap, then shrink, but never run out of the panel.
+    line_ = new FitLabel(this, kDesignTextPx, true);
     line_->setAlignment(Qt::AlignCenter);
     QFont small = line_->font();
     small.setPixelSize(kDesignTextPx);
-    line_->setFont(small);
     line_->setStyleSheet(QStringLiteral("color: #2A2A2E; background: transparent;"));
     raise_ = new QPushButton(this);
     raise_->setFont(small);
@@ -53,15 +53,16 @@ bool DebtPanelView::eventFilter(QObject* watched, QEvent* event) {
 void DebtPanelView::followScale(qreal scale) {
     setGeometry(qRound(place_.x() * scale), qRound(place_.y() * scale),
                 qRound(place_.width() * scale), qRound(place_.height() * scale));
-    QFont font = line_->font();
-    font.setPixelSize(std::max(7, qRound(kDesignTextPx * scale)));
-    line_->setFont(font);
+    const int px = std::max(1, qRound(kDesignTextPx * scale));
+    line_->setSizes(px, std::max(1, qRound(kTextFloorPx * scale)));  // the floor zooms too
+    QFont font = raise_->font();
+    font.setPixelSize(px);
     raise_->setFont(font);
 }
 
 void DebtPanelView::refresh() {
     const bool shown = model_.isShown();
-    line_->setText(QString::fromStdString(model_.line()));
+    line_->setCaption(QString::fromStdString(model_.line()));
     const Control button = model_.raiseForMe();
     raise_->setText(QString::fromStdString(button.caption));
     raise_->setVisible(button.visible);

@@ -5,8 +5,8 @@
 #include <QWidget>
 
 #include "view/Dispatch.h"
+#include "view/FitLabel.h"
 
-class QLabel;
 class QPushButton;
 
 namespace gw {
@@ -21,7 +21,7 @@ public:
     DebtPanelView(QWidget& parent, const QRect& place, Dispatch& dispatch, DebtHelp& model);
 
     void refresh();
-    QLabel& line() const { return *line_; }
+    FitLabel& line() const { return *line_; }
     QPushButton& raiseForMe() const { return *raise_; }
 
 protected:
@@ -34,7 +34,7 @@ private:
 
     Dispatch& dispatch_;
     DebtHelp& model_;
-    QLabel* line_;
+    FitLabel* line_;
     QPushButton* raise_;
     QRect place_;  // at 100 %
 };
