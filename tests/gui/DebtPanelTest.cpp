@@ -16,16 +16,8 @@ class DebtPanel : public ::testing::Test {
 protected:
     DebtPanel() : gui(std::make_unique<SeededRandom>(5)) {
         gui.run.setQuestion(question);
-        click([&] {
-            GameStart& start = gui.run.gameStart();
-            for (const char* name : {"Ann", "Bob"}) {
-                start.NickName_Change(name);
-                start.Token_Click(name[0] == 'A' ? 1 : 2);
-                start.NickName_Change(name);
-                start.Command1_Click();
-            }
-            start.Command2_Click();
-        });
+        gui.seatAnnAndBob();
+        gui.settle();
         EXPECT_TRUE(program().mainView().isVisible());
     }
     void click(const std::function<void()>& handler) {

@@ -6,6 +6,19 @@
 
 namespace gw::test {
 
+void GuiRun::seatAnnAndBob() {
+    program->dispatch().click([this] {
+        GameStart& start = run.gameStart();
+        for (const char* name : {"Ann", "Bob"}) {
+            start.NickName_Change(name);
+            start.Token_Click(name[0] == 'A' ? 1 : 2);
+            start.NickName_Change(name);
+            start.Command1_Click();
+        }
+        start.Command2_Click();
+    });
+}
+
 void savePictures(QWidget& window, const std::string& name) {
     const QString dir = QDir::tempPath() + QStringLiteral("/gildenway-gui");
     QDir().mkpath(dir);

@@ -27,6 +27,9 @@ public:
     }
     ~GuiRun() { program.reset(); }
 
+    // Seats two humans, Ann and Bob, by the set-up window's clicks, and starts their game.
+    void seatAnnAndBob();
+
     // Lets queued events run, then brings every window to its model.
     void settle() {
         QCoreApplication::processEvents();

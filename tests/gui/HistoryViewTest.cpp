@@ -14,16 +14,7 @@ namespace {
 TEST(HistoryView, OpensFromTheMenuAndListsTheGameNewestLast) {
     GuiRun gui(std::make_unique<SeededRandom>(5));
     app::Program& program = *gui.program;
-    program.dispatch().click([&] {
-        GameStart& start = gui.run.gameStart();
-        for (const char* name : {"Ann", "Bob"}) {
-            start.NickName_Change(name);
-            start.Token_Click(name[0] == 'A' ? 1 : 2);
-            start.NickName_Change(name);
-            start.Command1_Click();
-        }
-        start.Command2_Click();
-    });
+    gui.seatAnnAndBob();
     gui.settle();
     view::HistoryView& window = program.historyView();
     EXPECT_FALSE(window.isVisible());

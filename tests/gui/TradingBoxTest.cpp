@@ -17,16 +17,7 @@ constexpr Integer kSaintAntoine = 1;
 class TradingBox : public ::testing::Test {
 protected:
     TradingBox() : gui(std::make_unique<SeededRandom>(5)) {
-        gui.program->dispatch().click([&] {
-            GameStart& start = gui.run.gameStart();
-            for (const char* name : {"Ann", "Bob"}) {
-                start.NickName_Change(name);
-                start.Token_Click(name[0] == 'A' ? 1 : 2);
-                start.NickName_Change(name);
-                start.Command1_Click();
-            }
-            start.Command2_Click();
-        });
+        gui.seatAnnAndBob();
         Board& board = gui.run.board();
         for (Integer i = 0; i < board.getNumPlayer(); ++i) {
             player* p = board.getPlayer(i);
