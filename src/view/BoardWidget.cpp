@@ -199,8 +199,9 @@ QRect BoardWidget::cellArea(int cellId) const {
     return QRectF(design.topLeft() * scale_, design.size() * scale_).toRect();
 }
 
+// As a click, which a disabled board (a card is up) never receives.
 void BoardWidget::pressCell(int cellId) {
-    if (cellId >= 0 && cellId < kCells) emit cellClicked(cellId);
+    if (isEnabled() && cellId >= 0 && cellId < kCells) emit cellClicked(cellId);
 }
 
 // The cell under the pointer names itself.

@@ -88,6 +88,12 @@ TEST(BoardAccessible, PressingACellOpensItsCardAsAClickDoes) {
     QAccessibleActionInterface* actions = street->actionInterface();
     ASSERT_NE(actions, nullptr);
     EXPECT_EQ(actions->actionNames(), QStringList{QAccessibleActionInterface::pressAction()});
+    // A disabled board takes no click, and no press either.
+    main.client().setEnabled(false);
+    actions->doAction(QAccessibleActionInterface::pressAction());
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(gui.run.windows().cellInfo.isVisible());
+    main.client().setEnabled(true);
     actions->doAction(QAccessibleActionInterface::pressAction());
     gui.settle();
     EXPECT_TRUE(gui.run.windows().cellInfo.isVisible());
