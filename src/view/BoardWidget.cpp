@@ -1,10 +1,13 @@
 #include "view/BoardWidget.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <cmath>
 
 #include "art/Render.h"
+#include "view/BoardAccessible.h"
 #include "view/BoardLayout.h"
 #include "windows/MainWindow.h"
 
@@ -41,8 +44,13 @@ QRectF dieSquare(int die) {
 
 BoardWidget::BoardWidget(QWidget* parent, const MainWindow& model, CellPrints prints)
     : QWidget(parent), model_(model), prints_(std::move(prints)) {
+    // Before anything asks for the board's interface, which Qt then keeps.
+    installBoardAccessible();
     setFixedSize(kBoardWidth, kBoardHeight);
     setCursor(Qt::PointingHandCursor);
+    setAccessibleName(QStringLiteral("Board"));
+    setAccessibleDescription(
+        QStringLiteral("The forty cells of the board; pressing a cell opens its card."));
 }
 
 // The centre and the cells change only with the pixel ratio of what is painted on (the
@@ -178,6 +186,38 @@ int BoardWidget::cellAt(QPointF point) const {
         if (cellRect(*it).contains(point)) return *it;
     }
     return -1;
+}
+
+QString BoardWidget::cellName(int cellId) const {
+    if (cellId < 0 || cellId >= kCells) return {};
+    const auto& print = prints_[static_cast<std::size_t>(cellId)];
+    return print ? printedName(*print) : QString();
+}
+
+QRect BoardWidget::cellArea(int cellId) const {
+    const QRectF design = cellRect(cellId);
+    return QRectF(design.topLeft() * scale_, design.size() * scale_).toRect();
+}
+
+// As a click, which a disabled board (a card is up) never receives.
+void BoardWidget::pressCell(int cellId) {
+    if (isEnabled() && cellId >= 0 && cellId < kCells) emit cellClicked(cellId);
+}
+
+// The cell under the pointer names itself.
+bool BoardWidget::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const int cell = cellAt(QPointF(help->pos()) / scale_);
+        if (cell < 0) {
+            QToolTip::hideText();
+            event->ignore();
+        } else {
+            QToolTip::showText(help->globalPos(), cellName(cell), this, cellArea(cell));
+        }
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {

@@ -26,11 +26,18 @@ public:
     int cellAt(QPointF point) const;
     // Shows the board at this multiple of its design size.
     void setScale(qreal scale);
+    // What a cell is called (the name it prints) and where it lies on the widget at the
+    // current scale: a screen reader finds the cells by these.
+    QString cellName(int cellId) const;
+    QRect cellArea(int cellId) const;
+    // Does what a click on the cell does.
+    void pressCell(int cellId);
 
 signals:
     void cellClicked(int cellId);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 

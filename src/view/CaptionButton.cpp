@@ -5,6 +5,20 @@
 
 namespace gw::view {
 
+void CaptionButton::setMnemonic(QChar letter) {
+    mnemonic_ = letter;
+    update();
+}
+
+QString CaptionButton::drawnCaption() const {
+    QString drawn = text();
+    drawn.replace(QLatin1Char('&'), QStringLiteral("&&"));
+    if (mnemonic_.isNull()) return drawn;
+    const qsizetype at = drawn.indexOf(mnemonic_, 0, Qt::CaseInsensitive);
+    if (at >= 0) drawn.insert(at, QLatin1Char('&'));
+    return drawn;
+}
+
 void CaptionButton::paintEvent(QPaintEvent*) {
     QStylePainter p(this);
     QStyleOptionButton option;
@@ -15,7 +29,7 @@ void CaptionButton::paintEvent(QPaintEvent*) {
     p.setFont(font());
     p.setPen(
         palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
-    p.drawText(box, Qt::AlignCenter | Qt::TextWordWrap, text());
+    p.drawText(box, Qt::AlignCenter | Qt::TextWordWrap | Qt::TextShowMnemonic, drawnCaption());
 }
 
 }  // namespace gw::view

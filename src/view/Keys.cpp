@@ -5,6 +5,8 @@
 #include <map>
 #include <vector>
 
+#include "view/CaptionButton.h"
+
 namespace gw::view {
 
 // Buttons that share a letter take turns in one place of the window: one key serves them
@@ -13,7 +15,12 @@ void addMnemonics(QWidget& window, const ControlSet& controls,
                   std::initializer_list<std::pair<std::string_view, char>> keys) {
     std::map<char, std::vector<QAbstractButton*>> byLetter;
     for (const auto& [name, letter] : keys) {
-        if (QAbstractButton* button = controls.button(name)) byLetter[letter].push_back(button);
+        QAbstractButton* button = controls.button(name);
+        if (!button) continue;
+        byLetter[letter].push_back(button);
+        if (auto* caption = qobject_cast<CaptionButton*>(button)) {
+            caption->setMnemonic(QLatin1Char(letter));
+        }
     }
     for (const auto& [letter, buttons] : byLetter) {
         auto* shortcut =

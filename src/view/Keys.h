@@ -1,5 +1,6 @@
 // Keys on a window's buttons: Alt and a letter clicks a named button while it is shown and
-// enabled, as a mnemonic does; the button's caption stays as the model writes it.
+// enabled, as a mnemonic does; the letter is drawn underlined, the caption's text stays as
+// the model writes it.
 #pragma once
 
 #include <QWidget>

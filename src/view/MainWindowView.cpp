@@ -8,6 +8,7 @@
 #include <cmath>
 #include <QShortcut>
 
+#include "art/Tokens.h"
 #include "view/Keys.h"
 #include "view/Places.h"
 #include "windows/GameRun.h"
@@ -220,7 +221,23 @@ void MainWindowView::refresh() {
     }
     board_->update();
     for (PictureWidget* panel : panels_) panel->update();
+    nameTokenPictures();
     if (model_.isVisible() != isVisible()) setVisible(model_.isVisible());
+}
+
+// The tokens on the panels are painted, so the panels say which they show.
+void MainWindowView::nameTokenPictures() {
+    QStringList rows;
+    for (int i = 0; i < kMaxPlayers; ++i) {
+        const MainWindow::PanelRow& row = model_.panel(i);
+        if (!row.tokenVisible || row.token < 0) continue;
+        rows << art::tokenName(row.token) + QLatin1Char(' ') +
+                    QString::fromStdString(row.name.caption);
+    }
+    panels_[0]->setAccessibleName(QStringLiteral("Players: ") + rows.join(QStringLiteral(", ")));
+    panels_[3]->setAccessibleName(model_.playToken() >= 0 ? QStringLiteral("Now playing: ") +
+                                                                art::tokenName(model_.playToken())
+                                                          : QStringLiteral("Now playing"));
 }
 
 void MainWindowView::closeEvent(QCloseEvent* event) {

@@ -47,6 +47,7 @@ protected:
 private:
     void buildMenus();
     void setScale(qreal scale);
+    void nameTokenPictures();
     void click(std::function<void()> handler) { dispatch_.click(handler); }
 
     Dispatch& dispatch_;

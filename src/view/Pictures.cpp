@@ -88,6 +88,10 @@ CellPrints cellPrints(const CellFaces& faces) {
     return prints;
 }
 
+QString printedName(const CellPrint& print) {
+    return print.face.name;
+}
+
 void paintCell(QPainter& p, const QRectF& rect, int cellId, const CellPrint& print) {
     art::paintBoardCell(p, rect, print.face, art::boardCellEdge(cellId));
 }

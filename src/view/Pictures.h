@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QRectF>
+#include <QString>
 #include <array>
 #include <functional>
 #include <memory>
@@ -26,6 +27,8 @@ using Paint = std::function<void(QPainter&, const QRectF&)>;
 struct CellPrint;
 using CellPrints = std::array<std::shared_ptr<const CellPrint>, 40>;
 CellPrints cellPrints(const CellFaces& faces);
+// The name a cell prints, which is also what it is called to a screen reader.
+QString printedName(const CellPrint& print);
 void paintCell(QPainter& p, const QRectF& rect, int cellId, const CellPrint& print);
 void paintCentre(QPainter& p, const QRectF& rect);
 void paintToken(QPainter& p, const QRectF& rect, int token);
