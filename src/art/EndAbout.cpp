@@ -135,19 +135,29 @@ TextBoxes paintAboutBanner(QPainter& p, const QRectF& rect) {
     return out;
 }
 
+void paintAboutPage(QPainter& p, const QRectF& rect) {
+    paintPanel(p, rect);
+    DesignSpace ds(p, rect, QSizeF(715, 830), false);
+    paintSkyline(p, QRectF(8, 722, 699, 100), colour::withAlpha(colour::teal, 55));
+    paintGoldRule(p, QPointF(120, 724), QPointF(595, 724));
+}
+
 void paintPortrait(QPainter& p, const QRectF& rect, int index) {
     static const std::array<QColor, kPortraitCount> kBacks = {
         colour::districtBand(1), colour::districtBand(2), colour::districtBand(4),
         colour::districtBand(8), colour::districtBand(6), colour::districtBand(7),
-        colour::districtBand(5)};
+        colour::districtBand(5), colour::districtBand(3), colour::metroBand,
+        colour::utilityBand};
     static const std::array<QColor, kPortraitCount> kSkins = {
         QColor(0xF2, 0xC9, 0xA5), QColor(0xC6, 0x8E, 0x62), QColor(0xE8, 0xB8, 0x8A),
         QColor(0x8D, 0x5A, 0x3B), QColor(0xF5, 0xD5, 0xB8), QColor(0xB0, 0x7A, 0x50),
-        QColor(0xDE, 0xA8, 0x7E)};
+        QColor(0xDE, 0xA8, 0x7E), QColor(0xA8, 0x6E, 0x48), QColor(0xF0, 0xC4, 0x9C),
+        QColor(0x7A, 0x4E, 0x32)};
     static const std::array<QColor, kPortraitCount> kHair = {
         QColor(0x3B, 0x2A, 0x20), QColor(0x1E, 0x1E, 0x22), QColor(0xB5, 0x6A, 0x2C),
         QColor(0x2A, 0x2A, 0x2E), QColor(0xE0, 0xC0, 0x6A), QColor(0x6B, 0x3E, 0x26),
-        QColor(0x9A, 0x9A, 0xA0)};
+        QColor(0x9A, 0x9A, 0xA0), QColor(0x8B, 0x2E, 0x1E), QColor(0x4A, 0x32, 0x24),
+        QColor(0x15, 0x15, 0x18)};
     const int i = ((index % kPortraitCount) + kPortraitCount) % kPortraitCount;
     const auto k = static_cast<std::size_t>(i);
     DesignSpace ds(p, rect, QSizeF(97, 89), false);
@@ -160,7 +170,7 @@ void paintPortrait(QPainter& p, const QRectF& rect, int index) {
     p.setClipPath(clip);
     const qreal w = 1.3;
     // Shoulders in a token colour, so the team belongs to the game.
-    const QColor shirt = QColor::fromHsv((i * 51 + 190) % 360, 120, 150);
+    const QColor shirt = QColor::fromHsv((i * 37 + 190) % 360, 120, 150);
     p.setPen(inkPen(w));
     p.setBrush(shadedBrush(shirt, QRectF(18, 60, 62, 30), 125, 110));
     p.drawEllipse(QRectF(16, 64, 66, 50));

@@ -9,7 +9,8 @@ class QPainter;
 
 namespace gw::art {
 
-constexpr int kPortraitCount = 7;
+// One for each member of the team.
+constexpr int kPortraitCount = 10;
 
 // Drawn for 600 x 491: "Game Over", a ribbon for the winner's line at 96,104 (265 x 17) and
 // a podium for the winner's token at 264,168 (97 x 81); the buttons' column at x 416 stays plain.
@@ -19,7 +20,10 @@ TextBoxes paintEndBackground(QPainter& p, const QRectF& rect, const QString& clo
 // Drawn for 708 x 185: "Gildenway" and "Kestrovia" over the skyline.
 TextBoxes paintAboutBanner(QPainter& p, const QRectF& rect);
 
-// One of seven friendly abstract faces (about 97 x 89), index 0 to 6.
+// The About window's page, drawn for 715 x 830: paper, with the city along its foot under Ok.
+void paintAboutPage(QPainter& p, const QRectF& rect);
+
+// One of ten friendly abstract faces (about 97 x 89), index 0 to 9.
 void paintPortrait(QPainter& p, const QRectF& rect, int index);
 
 // The application icon, at any square size.

@@ -128,32 +128,46 @@ TextBoxes paintPlayerType(QPainter& p, const QRectF& rect, PlayerType type, bool
     const QString label =
         type == PlayerType::Computer ? QStringLiteral("Computer") : QStringLiteral("Human");
     if (large) {
-        // A raised plaque that asks to be pressed.
+        // The switch to the other kind: a light, raised key with an empty ring where the chosen
+        // one has its tick, so it reads as "not this one yet, click to take it".
         p.setPen(Qt::NoPen);
-        p.setBrush(colour::withAlpha(colour::ink, 50));
-        p.drawRoundedRect(r.translated(1, 2), 8, 8);
-        paintFramedPlate(p, r, 8, pen(colour::tealDeep, 1), shadedBrush(colour::teal, r, 135, 110),
-                         colour::goldLight);
+        p.setBrush(colour::withAlpha(colour::ink, 40));
+        p.drawRoundedRect(r.adjusted(1, 2, -1, 0).translated(0, 1), 8, 8);
+        p.setPen(pen(colour::creamShade.darker(135), 1));
+        p.setBrush(shadedBrush(colour::paper, r, 104, 108));
+        p.drawRoundedRect(r.adjusted(1, 1, -1, -2), 8, 8);
+        p.setOpacity(0.7);
+        paintPlayerIcon(p, QRectF(10, 10, 28, 28), type);
+        p.setOpacity(1);
+        drawText(out, p, QRectF(42, 6, 82, 36), label,
+                 TextStyle{Face::Caption, 15, colour::inkSoft, Qt::AlignCenter, 1, 9});
+        p.setPen(pen(colour::inkSoft, 1.6));
         p.setBrush(colour::cream);
-        p.setPen(Qt::NoPen);
-        p.drawEllipse(QPointF(27, 25), 17, 17);
-        paintPlayerIcon(p, QRectF(12, 10, 30, 30), type);
-        drawText(out, p, QRectF(48, 6, 100, 38), label,
-                 TextStyle{Face::Title, 20, colour::cream, Qt::AlignCenter, 1, 12});
+        p.drawEllipse(QPointF(136, 24), 9, 9);
     } else {
-        // The choice in force: a pressed-in gold-edged badge with a tick.
-        p.setPen(pen(colour::gold, 2));
-        p.setBrush(colour::paper);
-        p.drawRoundedRect(r.adjusted(1, 1, -1, -1), 8, 8);
-        paintPlayerIcon(p, QRectF(10, 11, 28, 28), type);
-        drawText(out, p, QRectF(44, 8, 82, 34), label,
-                 TextStyle{Face::Caption, 14, colour::teal, Qt::AlignCenter, 1, 9});
-        p.setPen(pen(colour::moneyPlus, 3));
-        QPainterPath tick;
-        tick.moveTo(128, 25);
-        tick.lineTo(134, 32);
-        tick.lineTo(145, 17);
+        // The kind in force: a pressed-in teal key with a gold rim and a tick in a gold seal.
+        p.setPen(pen(colour::gold, 2.5));
+        p.setBrush(shadedBrush(colour::teal, r, 112, 130));
+        p.drawRoundedRect(r.adjusted(1.5, 1.5, -1.5, -1.5), 8, 8);
+        // The shadow inside the top edge is what makes it look pressed.
+        p.setPen(pen(colour::withAlpha(colour::ink, 90), 2));
         p.setBrush(Qt::NoBrush);
+        p.drawLine(QPointF(10, 5), QPointF(144, 5));
+        p.setPen(Qt::NoPen);
+        p.setBrush(colour::cream);
+        p.drawEllipse(QPointF(25, 25), 16, 16);
+        paintPlayerIcon(p, QRectF(12, 12, 26, 26), type);
+        drawText(out, p, QRectF(42, 6, 82, 36), label,
+                 TextStyle{Face::Title, 18, colour::cream, Qt::AlignCenter, 1, 10});
+        p.setPen(pen(colour::goldDeep, 1));
+        p.setBrush(colour::gold);
+        p.drawEllipse(QPointF(136, 24), 11, 11);
+        p.setPen(pen(colour::ink, 2.6));
+        p.setBrush(Qt::NoBrush);
+        QPainterPath tick;
+        tick.moveTo(130.5, 24.5);
+        tick.lineTo(134.5, 29);
+        tick.lineTo(142, 19);
         p.drawPath(tick);
     }
     return out;

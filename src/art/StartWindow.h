@@ -15,7 +15,8 @@ enum class PlayerType { Computer, Human };
 // type pictures, the shelf of fourteen tokens and the list of players on the right.
 TextBoxes paintStartBackground(QPainter& p, const QRectF& rect);
 
-// A 154 x 50 picture: large is the clickable choice, otherwise the choice in force.
+// A 154 x 50 picture: large is the switch to that kind (light, raised, an empty ring), otherwise
+// the kind in force (teal, pressed in, gold rim and a tick).
 TextBoxes paintPlayerType(QPainter& p, const QRectF& rect, PlayerType type, bool large);
 
 }  // namespace gw::art

@@ -41,20 +41,17 @@ AboutView::AboutView(Dispatch& dispatch, About_Help& model)
       model_(model) {
     auto* banner = new PictureWidget(this, paintAboutBanner);
     banner->setGeometry(pixels(480, 60, 9660, 2775));
-    // Image2 to Image8 under the three headings.
-    constexpr std::array<QPoint, 7> kPortraits = {{{7560, 5880},
-                                                   {960, 6840},
-                                                   {1080, 4200},
-                                                   {4080, 4200},
-                                                   {7560, 7680},
-                                                   {3960, 6120},
-                                                   {7560, 4080}}};
-    for (int i = 0; i < 7; ++i) {
-        const QPoint at = kPortraits[static_cast<std::size_t>(i)];
+    // A portrait over each member's name, so every name has its own face.
+    int index = 0;
+    model_.forEachMember([&](std::string_view name, const Control&) {
+        const QWidget* label = controls_.widget(name);
+        if (label == nullptr) return;
+        const int i = index++;
         auto* portrait =
             new PictureWidget(this, [i](QPainter& p, const QRectF& r) { paintPortrait(p, r, i); });
-        portrait->setGeometry(pixels(at.x(), at.y(), 1455, 1335));
-    }
+        portrait->setObjectName(QStringLiteral("portrait-") + qs(std::string(name)));
+        portrait->setGeometry(aboutPortraitPlace(label->geometry()));
+    });
     for (std::string_view heading : {"Label1", "Label8", "Label4"}) {
         if (QWidget* w = controls_.widget(heading)) {
             QFont f = w->font();
@@ -65,6 +62,11 @@ AboutView::AboutView(Dispatch& dispatch, About_Help& model)
     }
     onClicked("Command1", [this] { model_.Command1_Click(); });
     setOnCloseBox([this] { model_.Command1_Click(); });
+}
+
+const PictureWidget* AboutView::portrait(std::string_view name) const {
+    return findChild<PictureWidget*>(QStringLiteral("portrait-") + qs(std::string(name)),
+                                     Qt::FindDirectChildrenOnly);
 }
 
 void AboutView::refresh() {

@@ -187,7 +187,7 @@ void paintAboutBanner(QPainter& p, const QRectF& rect) {
 }
 
 void paintAboutBackground(QPainter& p, const QRectF& rect) {
-    art::paintPanel(p, rect);
+    art::paintAboutPage(p, rect);
 }
 
 void paintPortrait(QPainter& p, const QRectF& rect, int index) {

@@ -147,16 +147,18 @@ constexpr std::array kAbout = {
     row("Label1", K::Label, 600, 3120, 3135, 495, kCentre, kHeadingPx),
     row("Label8", K::Label, 3840, 3120, 2055, 495, kCentre, kHeadingPx),
     row("Label4", K::Label, 6720, 3120, 3375, 495, kCentre, kHeadingPx),
-    row("Label2", K::Label, 780, 5580, 2055, 300, kCentre, kNamePx),
-    row("Label3", K::Label, 660, 8220, 2055, 300, kCentre, kNamePx),
-    row("Label5", K::Label, 3780, 5580, 2055, 300, kCentre, kNamePx),
-    row("Label6", K::Label, 3660, 7500, 2055, 300, kCentre, kNamePx),
-    row("Label7", K::Label, 3660, 7800, 2055, 300, kCentre, kNamePx),
-    row("Label9", K::Label, 7260, 5460, 2055, 300, kCentre, kNamePx),
-    row("Label10", K::Label, 7260, 7260, 2055, 300, kCentre, kNamePx),
-    row("Label11", K::Label, 7260, 9060, 2055, 300, kCentre, kNamePx),
-    row("Label12", K::Label, 7260, 9360, 2055, 300, kCentre, kNamePx),
-    row("Label13", K::Label, 7260, 9660, 2055, 300, kCentre, kNamePx),
+    // The members stand in four stacks of 2, 3, 3 and 2 over the whole height down to Ok:
+    // a portrait over each name (see aboutPortraitPlace), the implementation team in two.
+    row("Label2", K::Label, 1305, 6375, 1710, 300, kCentre, kNamePx),
+    row("Label3", K::Label, 1305, 8505, 1710, 300, kCentre, kNamePx),
+    row("Label5", K::Label, 4005, 5310, 1710, 300, kCentre, kNamePx),
+    row("Label6", K::Label, 4005, 7440, 1710, 300, kCentre, kNamePx),
+    row("Label7", K::Label, 4005, 9570, 1710, 300, kCentre, kNamePx),
+    row("Label9", K::Label, 6675, 5310, 1710, 300, kCentre, kNamePx),
+    row("Label10", K::Label, 6675, 7440, 1710, 300, kCentre, kNamePx),
+    row("Label11", K::Label, 6675, 9570, 1710, 300, kCentre, kNamePx),
+    row("Label12", K::Label, 8415, 6375, 1710, 300, kCentre, kNamePx),
+    row("Label13", K::Label, 8415, 8505, 1710, 300, kCentre, kNamePx),
     row("Command1", K::Button, 4200, 10200, 1215, 495, kCentre, 14),
 };
 
@@ -194,6 +196,12 @@ std::span<const Place> gameEndTextRooms() {
 }
 std::span<const Place> aboutPlaces() {
     return kAbout;
+}
+QRect aboutPortraitPlace(const QRect& name) {
+    constexpr int kWidth = 104;
+    constexpr int kHeight = 95;
+    constexpr int kGap = 3;
+    return {name.center().x() + 1 - kWidth / 2, name.top() - kGap - kHeight, kWidth, kHeight};
 }
 
 }  // namespace gw::view

@@ -36,6 +36,8 @@ std::span<const Place> jflCardPlaces();
 std::span<const Place> taxCardPlaces();
 std::span<const Place> gameEndPlaces();
 std::span<const Place> aboutPlaces();
+// A member's portrait on the About window stands just above the member's name.
+QRect aboutPortraitPlace(const QRect& name);
 
 // Where texts of the main window may grow inside their own panels so that they show whole:
 // the message line fills the panel's well, the name of the player whose turn it is the

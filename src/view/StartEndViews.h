@@ -48,6 +48,8 @@ class AboutView final : public WindowView {
 public:
     AboutView(Dispatch& dispatch, About_Help& model);
     void refresh() override;
+    // The portrait over the member's name label, or null.
+    const PictureWidget* portrait(std::string_view name) const;
 
 private:
     About_Help& model_;

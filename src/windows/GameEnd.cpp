@@ -57,7 +57,8 @@ struct Credit {
     const char* text;
 };
 
-// The three columns of the team, each under its heading.
+// The three columns of the team, each under its heading; the members follow the headings.
+constexpr std::size_t kHeadings = 3;
 constexpr std::array<Credit, 13> kCredits = {{
     {"Label1", "Requirements Team"},
     {"Label8", "Design Team"},
@@ -79,6 +80,11 @@ constexpr std::array<Credit, 13> kCredits = {{
 void About_Help::forEachControl(const ControlVisitor& fn) const {
     for (const Credit& credit : kCredits) fn(credit.name, Control{true, true, credit.text});
     fn("Command1", command1_);
+}
+
+void About_Help::forEachMember(const ControlVisitor& fn) const {
+    for (std::size_t i = kHeadings; i < kCredits.size(); ++i)
+        fn(kCredits[i].name, Control{true, true, kCredits[i].text});
 }
 
 }  // namespace gw

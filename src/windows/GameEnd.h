@@ -55,6 +55,8 @@ public:
     const Control& Command1() const { return command1_; }
     // The three headings, then the ten names under them.
     void forEachControl(const ControlVisitor& fn) const;
+    // The ten names alone, each a member with a portrait of their own.
+    void forEachMember(const ControlVisitor& fn) const;
 
 private:
     Control command1_{true, true, "Ok"};

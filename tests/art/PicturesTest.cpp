@@ -48,7 +48,7 @@ TEST(Pictures, CatalogueHoldsEveryRole) {
     EXPECT_EQ(cells, 40);
     EXPECT_EQ(cards, 12);
     EXPECT_EQ(dice, 6);
-    EXPECT_EQ(portraits, 7);
+    EXPECT_EQ(portraits, 10);
 }
 
 TEST(Pictures, TwoTimesIsPaintedNotScaled) {
