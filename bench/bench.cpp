@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The speed of the rules alone: computer players, no window, no sound, no waits.
 #include <benchmark/benchmark.h>
 

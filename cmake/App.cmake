@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The desktop program: Qt views over the window models (src/view), the real delay, sound
 # and message boxes (src/app), the executable, its installed files and its tests.
 include(GNUInstallDirs)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The pictures of the game, painted by code with QtGui, the contact-sheet tool that shows
 # them all at 1x and 2x, and their tests.
 find_package(Qt6 REQUIRED COMPONENTS Gui)

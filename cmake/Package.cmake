@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The Debian package: `cpack -G DEB` in the build folder writes gildenway_<version>_<arch>.deb,
 # installing under /usr, its library dependencies computed by dpkg-shlibdeps.
 set(CPACK_GENERATOR DEB)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The game's sound effects: gildenway-soundgen synthesises them at build time into
 # ${GILDENWAY_SOUND_DIR}, they are installed with the game, and their tests read them back.
 include(GNUInstallDirs)

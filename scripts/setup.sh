@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installs what a fresh Debian machine lacks, builds, and then either starts the game
 # ("play") or runs every test, the sanitizer build included ("test").
 set -euo pipefail

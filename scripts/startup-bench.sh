@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Measures the desktop program on a virtual X display: the time from start to the first
 # painted set-up window (several runs), and the peak memory and duration of a whole game
 # of six computer players played by the real program with its windows up.

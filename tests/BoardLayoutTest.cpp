@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The ring of cells and what a landing on each kind does.
 #include "GameFixture.h"
 

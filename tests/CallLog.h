@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every call the rules make to the main window, one line each, to compare two runs.
 #pragma once
 

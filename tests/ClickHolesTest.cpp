@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Clicks that once crashed, corrupted or stranded a game: a card button inside a walk past
 // Go, a human in debt with nothing to sell, a fourth throw, cards whose facts have gone
 // stale, and a typed sum beyond what a balance can hold.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A command line as a test writes it, split at blanks and handed to a parser as main hands
 // it the words of argv.
 #pragma once

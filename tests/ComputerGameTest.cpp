@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whole games of computer players: they run to their end, and a long run of turns does
 // not deepen the call stack.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The computer's turn: leaving jail, buying, paying, releasing, raising money, building
 // and trading, by its fixed thresholds.
 #include "GameFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A human in debt is told how much and the ways out, may have the sum raised as a computer
 // would after saying yes, and the close box asks before leaving a game in progress.
 #include "RunFixture.h"

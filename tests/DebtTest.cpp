@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rent, taxes and the tax card, worth and bankruptcy: what is due, who can pay, and where
 // a bankrupt player's cells go.
 #include "GameFixture.h"

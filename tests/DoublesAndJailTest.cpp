@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The chain of doubles: a throw without doubles ends it, jail voids the throw it promised,
 // and a failed throw in jail shows its message and buttons in their order.
 #include "GameFixture.h"

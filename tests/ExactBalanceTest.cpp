@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A balance that is exactly what is asked: a hotel bought with its cost in hand, a rent
 // paid with its sum in hand, both leaving 0 and no debt shown.
 #include "GameFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A game on the recorder with a scripted source of chance: the deck in a chosen order,
 // the players in the order added (ids 0, 1, ...), and dice that show the faces pushed.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The set-up window through its clicks: the states of its buttons, the refusals, the
 // names of computer players, the slots and the sounds.
 #include "RunFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The story of a game as the end window tells it: the worth of each player after every
 // round, purchases, trades, hotels, rents and bankruptcies, from a scripted game of two
 // humans and from whole seeded games of humans and computers.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The story of a game of a human and a computer, told in order from what the rules tell
 // the main window: messages, payments, purchases, cards, jail, mortgages and bankruptcy.
 #include "RunFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Buying, districts, hotels and mortgages: the rules that the property card does not show.
 #include "GameFixture.h"
 

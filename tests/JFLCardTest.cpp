@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The twenty card effects, drawn by landing on a card cell: money, moves round Go,
 // the landings they bring about, nested draws and what End Turn makes of the result.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The JFL deck: the fixed cycle of twenty cards, the scatter that deals it, and the jail
 // card that leaves the cycle while held and comes back just behind the cursor.
 #include <algorithm>

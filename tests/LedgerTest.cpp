@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The simulator's ledger on its own: one scripted turn for each kind of fault it is there
 // to catch, each named as what it is, and its own tables of amounts against the cells.
 #include "Checker.h"

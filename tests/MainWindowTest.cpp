@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window's buttons, message line and board marks as the rules drive them, and
 // the clicks of a human through it.
 #include <functional>

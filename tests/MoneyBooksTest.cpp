@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The books that the random player keeps beside a game of people: a sale at a typed sum,
 // a mortgage clicked while the token walks, and money that no rule moved.
 #include "MoneyBooks.h"

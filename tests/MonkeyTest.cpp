@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Random clicks through whole runs of the program, on a few seeds, and the random player's
 // command line.
 #include <gtest/gtest.h>

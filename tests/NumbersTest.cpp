@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Chance and arithmetic: the die's faces, the reseeded draw, rounding and saturation.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pace of the waits: what a wait lasts at each pace, a change of pace inside a wait,
 // sounds skipped at Instant, and a seeded game of humans and computers that ends in the
 // same state with the same window calls at every pace.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The property card: which buttons each kind of card offers to whom, the values it
 // prints, and what each button does to the game and to the main window.
 #include "GameFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The helping hand of a human in debt: the plan is what autoMakeMoney does from the same
 // position, planning touches nothing, and the plan carried out makes the same calls.
 #include "GameFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A main window, sound player and delay that write one line per call, so that a test
 // can compare the exact order of what the rules showed, played and waited for. It can
 // pass each call on to a real window model, to check button states as well.

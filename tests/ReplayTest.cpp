@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game watched again: a seeded game of humans and computers, with clicks made inside
 // the waits of the rules, played again from memory ends in the same state after the same
 // calls to the main window; clicks during the replay are ignored, and Stop plays the rest

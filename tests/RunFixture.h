@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A whole run of the program driven as a person would, through click handlers only:
 // the set-up window, the main window, the cards, the end window. Chance is scripted, waits
 // are instant unless a test asks a click to land inside one.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The determinism signature: the line kept in the repository, its independence of the
 // number of jobs, and a hash of the board that sees every part of the end state.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The simulator's command line: good lines give the run asked for, and every bad one
 // gives one line that names the option and what it accepts.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The headless simulator: its runs repeat by seed whatever the number of jobs, its
 // summary counts seats in the order of play and turns over finished games only, and its
 // checks name a movement of money that no rule explains.

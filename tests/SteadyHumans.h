@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Humans played by clicks, always the same way: buy what the card offers, pay what it
 // asks, let go what they cannot buy, close what is left, throw, end the turn, go bankrupt when
 // nothing else is open. With a seeded source of chance a game of humans and computers then repeats

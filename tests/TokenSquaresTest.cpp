@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The small squares of the cells in the main window model: a token leaves the squares of
 // the cell it walks away from and fills those of the cell it lands on.
 #include "GameFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sales between players through the trading card: the two faces and their buttons, the
 // amount box, the talk between two humans, a computer owner's answer, and what a sale
 // does to money, mortgages and the right to build.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Turns as people play them, through clicks only: a tax paid after raising money on a
 // property card, a trade between two humans that asks for more, both ways out of jail, and
 // the buttons of the main window in every situation of a turn.

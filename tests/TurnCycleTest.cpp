@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A turn from the throw to the hand-over: moves, Go money, doubles, jail and the two
 // refusals of End Turn, checked against the recorded order of window calls and sounds.
 #include "GameFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The computer's search for the street it lacks in the two-street districts 1 and 8,
 // whose third column of the owner's table stands for no street.
 #include "GameFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // File > Voice: silent at start, reads each new message of the message line once enabled,
 // and stops when muted.
 #include "RunFixture.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whole runs of the program by clicks: humans buying, paying and trading, computers
 // playing to the end, the end window, a new game, and the end of the program from inside
 // a wait.

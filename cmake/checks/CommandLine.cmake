@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # cmake -DPROGRAM=<program> -DHELP=<regex> [-DVERSION=<regex>] -P CommandLine.cmake
 # With no display at all: --help (and --version) answer on standard output with code 0, and
 # a bad option gets one line naming it and code 2.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # cmake -DBUILD=<build dir> -DWORK=<scratch dir> -DVERSION=<version> -P DebPackage.cmake
 # Builds the Debian package, has lintian look at it, unpacks it with dpkg-deb into a scratch
 # folder and starts the unpacked program offscreen: it must find its sounds.

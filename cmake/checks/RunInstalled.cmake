@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # cmake -DBUILD=<build dir> -DWORK=<scratch dir> -DBINDIR=<program folder> -P RunInstalled.cmake
 # Installs the build under a scratch prefix, moves the whole prefix elsewhere, and starts the
 # moved program offscreen: it must show its set-up window and find every sound.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # expect_started_with_sounds(PROGRAM): runs PROGRAM offscreen until its first window is
 # painted and fails on any complaint about the sound files.
 function(expect_started_with_sounds program)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Plays the set-up window as a person would, seating computer players only, so the whole
 // program can be run to the end of a game without anyone at the mouse.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one line a run of computer players prints when its game is over: the winner, the
 // computer turns played and a hash of the end state, so that runs of the same seed at
 // different paces can be compared from outside.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program's options read by QCommandLineParser, with the numbers read the same way as
 // the tools read theirs.
 #include "app/Options.h"

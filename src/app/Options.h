@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The command line of the program. Without options it is the game as a person plays it;
 // the options serve the smoke test and the start-up and memory bench. Every option is one
 // row of the table in Options.cpp: its names, its value, its help line and how it is read.

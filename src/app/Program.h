@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The views of one run, wired to its models: every change marks them for one repaint from
 // the event loop, clicks pass through one dispatch, and a run that winds down cuts short
 // the waits still running.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The real wait: a nested event loop ended by a precise timer, so windows keep answering
 // while the rules stand still. Each wait has its own deadline; how long it is comes from
 // the pace, which may change while a wait runs.

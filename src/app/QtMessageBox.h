@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The set-up window's message boxes as real modal boxes with a warning icon.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The windows' yes-or-no questions as real modal boxes over the window that asks.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The real sound: four players, each play a fresh sound effect that cuts off the one that
 // player was sounding. Each player's next effect of each sound is loaded ahead, so that a
 // play only starts it. No output device or no file is silence.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The voice of File > Voice through Qt's text to speech. The engine starts at the first
 // sentence, so a game that never enables the voice never loads it; no engine or no audio
 // device is silence.

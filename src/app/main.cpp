@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Gildenway: the desktop program. Makes the real sound, waits and message boxes, one run
 // of the game and its windows, and opens the set-up window.
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Board cells. The layout runs from the centre of the board outwards: band, name, emblem,
 // price. On the left and right sides the band is a column and the text sits beside it.
 #include "art/BoardCell.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One board cell: a band in the district colour on the edge facing the centre, the name, an
 // emblem for the cells that have one, and the price at the outer edge. Text stays upright on
 // every side of the board so it reads at 7 to 9 px.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The board centre: a teal frame with a gold line, a map of the city (river, mountain park,
 // street grid, metro line), a skyline along the bottom and a cartouche with the titles.
 #include "art/BoardCentre.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The centre of the board: a stylised map of Kestrovia under the game's name.
 #pragma once
 

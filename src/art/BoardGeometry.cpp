@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The cell sizes, as laid out on the main window.
 #include "art/BoardGeometry.h"
 

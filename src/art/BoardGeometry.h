@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sizes of the forty board cell pictures and the side of the board each sits on. Ring
 // positions run clockwise from the bottom-right corner.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Frames, row stripes and captions of the property, trade, JFL and tax cards.
 #include "art/CardParts.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the card faces share, drawn in a card's design units with its top left at 0,0.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Card faces: property cards, the two faces of a trade card, the JFL card and the tax
 // cards. The program writes names and sums over them; the faces carry the printed captions
 // and leave the written places and the button strips clear.

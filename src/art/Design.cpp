@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Design space and the few shapes most pictures share (card stock, panels, gold rules).
 #include "art/Design.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Drawing in a design space: a picture drawn once in its own units (a 100 by 100 square for
 // emblems, the card's printed size for cards) is fitted into whatever rectangle the caller
 // gives, with pen widths still set in logical pixels.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Dice faces in a 100 by 100 design square; the pips sit on a three by three grid.
 #include "art/Dice.h"
 

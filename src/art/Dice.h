@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A die face: ivory, rounded, softly shadowed, with ink pips.
 #pragma once
 

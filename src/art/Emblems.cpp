@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The emblems. Outlines are about one logical pixel thick at small sizes and grow slowly with
 // the emblem so that large ones on cards do not look spidery.
 #include "art/Emblems.h"

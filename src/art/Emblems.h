@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The small emblems printed on cells and cards: each is drawn in a 100 by 100 design square
 // centred in the rectangle it is given, so one drawing serves a 20 px cell and a 90 px card.
 #pragma once

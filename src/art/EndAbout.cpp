@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The end and About windows. The team emblems are built from a few parts (face shape, hair,
 // background colour, accessory) so each member gets a different one.
 #include "art/EndAbout.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The end-of-game window's background, the About banner and the team emblems.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Hotel and mortgage stamp. The hotel is drawn once upright and turned for the side rows.
 #include "art/Marks.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Marks laid over board cells: a hotel and the mortgage stamp.
 #pragma once
 

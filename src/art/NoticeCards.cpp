@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The trade card's two faces, the JFL card and the tax cards.
 #include <QPainter>
 

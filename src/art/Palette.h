@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The colours of every picture: card stock, ink, the teal rim with its gold accent, and the
 // band colours shared by the board cells and the property cards.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Main window panels. They are drawn at their design sizes and stretched to the rectangle
 // given, since the program shows some of them at a slightly different size.
 #include "art/Panels.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The panels on the right of the main window and the bar that marks whose turn it is.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Each helper makes the same path calls a drawing would spell out by hand, so a picture looks
 // the same whichever way its outline is written.
 #include "art/Paths.h"

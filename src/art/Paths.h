@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The outlines the pictures keep building: straight-sided shapes through their corners, stars
 // and bursts, and smooth shapes of cubic curves.
 #pragma once

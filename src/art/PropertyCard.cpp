@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Property cards: the band with the name and price written on it, then the table of rents.
 // Each printed caption ends where the program's number for that row begins.
 #include <QPainter>

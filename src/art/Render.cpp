@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rendering helpers shared by the program, the contact sheets and the tests.
 #include "art/Render.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Turning a painting function into a pixmap at a device pixel ratio, so every picture is
 // painted in logical pixels and stays sharp at 2x.
 #pragma once

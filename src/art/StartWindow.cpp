@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The set-up window. Its controls lie over the background at fixed places, so the
 // background prints the labels and frames around them and leaves their own space plain.
 #include "art/StartWindow.h"

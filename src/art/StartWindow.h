@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The set-up window: its background and the player-type pictures.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The story of a game as a picture: every player's worth after each round, one line per
 // player in the colour of his token with the token at its end, a red cross where a player
 // went bankrupt. Painted with vectors at whatever size and pixel ratio it is given.

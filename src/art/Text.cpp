@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Fitting text: the lines are chosen by trying every split at the break points and keeping
 // the one whose widest line is narrowest.
 #include "art/Text.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Text on pictures: the DejaVu faces, and a writer that fits a string in a box (wrapping at
 // spaces and hyphens before shrinking) and reports where the ink went, so tests can check
 // that nothing is clipped.

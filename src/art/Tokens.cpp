@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The token silhouettes, each one QPainterPath in a 100 by 100 square, filled with its colour
 // (lighter at the top left for a little depth) and outlined in ink; details are drawn on top.
 #include "art/Tokens.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The fourteen player tokens. Each has a silhouette and a colour of its own: the silhouette
 // tells them apart at 24 px and up, the colour alone at the 10 by 8 squares of the board.
 #pragma once

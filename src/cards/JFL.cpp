@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "cards/JFL.h"
 
 #include "cards/JFLDeck.h"

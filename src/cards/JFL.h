@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A card cell: a landing draws the next card, shows it for the standard wait, and
 // carries it out; the cell is redrawn after all that the card brought about.
 #pragma once

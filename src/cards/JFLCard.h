@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One card of the deck: a text and a type, and the single place where the twenty
 // effects are carried out.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one deck: twenty cards in a fixed cycle, shuffled once when built. The jail card
 // leaves the cycle while a player holds it and comes back just behind the cursor.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What every one of the forty cells offers its callers: a kind to test, a redraw and a
 // landing. Kinds are told apart by `kind()`; the as... casts give the concrete class.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The four cells whose landing asks nothing of the player: Go, the jail (a visit),
 // the free stop, and Police, which sends the token to jail.
 #pragma once

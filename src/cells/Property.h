@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a buyable cell has beyond a plain cell: price, owner and mortgage flag, and the
 // bare rent and mortgage value that follow from the price. Money never passes here.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The common part of the three buyable kinds (Street, Metro, Utility): the held
 // Property, the landing rule, and the filling of the property card.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A buyable cell of a district that carries up to four hotels. The district id's tens
 // digit is the district, its units digit the street's number in it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two tax cells. They hold the flat sum and open the tax card; the money moves
 // through the player's payRent, which also applies the lesser-of rule of income tax.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The plain cell: id, name, the way to the board, and who stands on it. Every concrete
 // cell holds one and forwards its redraw and its plain landing (a redraw) to it.
 #pragma once

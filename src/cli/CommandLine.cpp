@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading the words of a command line against the table of its options.
 #include "cli/CommandLine.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The command line of the tools without a toolkit: whole-number options with their ranges
 // and switches, given as "--name value" or "--name=value", each at most once. A bad line
 // gets one line naming the option and what it accepts.

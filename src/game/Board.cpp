@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The order of play and the turn cycle.
 #include "game/Board.h"
 

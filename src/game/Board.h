@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game: the players in their order of play, whose turn it is, the dice, the deck
 // and the forty cells. Every rule step of a turn starts in playTurn, rollDice or
 // endTurn; nothing else changes whose turn it is.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The ring of forty cells: the one table of names, prices and district ids.
 #include <array>
 

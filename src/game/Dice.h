@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One six-sided die. The face comes from a reseeded draw spread over 10000 values
 // and taken modulo 6, so faces 2 to 5 are a little likelier than 1 and 6.
 #pragma once

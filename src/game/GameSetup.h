@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The players of a new game as the set-up window composed them, in the order added.
 // The set-up window produces it; the program, tests, simulator and benchmark build it.
 #pragma once

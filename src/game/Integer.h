@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game's one number type and the two ways numbers are made from arithmetic:
 // saturation at the 16-bit bounds and rounding of a double-precision product.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sizes of the game that every table is cut to.
 #pragma once
 

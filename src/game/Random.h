@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game's source of chance. Every random number of a game is one "reseeded draw":
 // a number r with 0 <= r < 1. The real game reseeds from the clock before each draw;
 // tests and tools use a fixed seed or a scripted list instead.

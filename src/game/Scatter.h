@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one way the game shuffles: the order of play and the deck of cards.
 #pragma once
 

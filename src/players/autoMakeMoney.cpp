@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How a computer raises cash: utilities, then metro stations, then bare streets are
 // mortgaged, then hotels sold; if all that is not enough, bankruptcy.
 #include <array>

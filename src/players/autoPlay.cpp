@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A computer player's whole turn, in phases that Board.playTurn runs in order. Nothing
 // here is random and nothing here waits: the pacing lies in the cards' computerThink.
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How a computer completes a district: it asks the owner of the one street it lacks,
 // for a little more than half its price, through the same cards a human uses.
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One participant of the game, human or computer: money, place on the ring, jail
 // state, doubles, turn flag and holdings, and every rule that changes them. Nobody
 // else writes the balance or the position. The computer's decisions are operations of

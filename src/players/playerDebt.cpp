@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Rent, taxes, worth and bankruptcy. A debt has no record of its own: it is a cell
 // under the token not dealt with, or a negative balance.
 #include "cells/PropertyCell.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Buying, hotels and mortgages. Each action asks its own test again and does nothing
 // when it fails; buyProperty alone trusts its caller.
 #include "cells/PropertyCell.h"

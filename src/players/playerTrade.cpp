@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sales of one cell between two players, for money.
 #include "cells/PropertyCell.h"
 #include "game/Board.h"

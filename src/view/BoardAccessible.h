@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The board to a screen reader: one painted widget shown as forty buttons, one per cell,
 // each with the name the cell prints, its place on the screen at the current size, and a
 // press that does what a click on the cell does.

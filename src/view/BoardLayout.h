@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the pictures of the board stand, in logical pixels of the board: the forty cells,
 // the marks on each (small squares, hotels, mortgage stamp, owner mark), the walking tokens
 // and the dice. Worked out from the board's design in twips.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The board of the main window: the centre picture and the forty cells, with what stands
 // on them drawn from the main window model (small squares, owner marks, hotels, mortgage
 // stamps, the walking tokens, the dice). A click on a cell is passed on by its index.

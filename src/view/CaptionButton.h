@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A push button whose caption wraps onto several lines when its box is narrow, as the
 // long captions of the turn buttons need, with its Alt letter underlined.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where a window opens on the screen. A card opens beside the board when the screen has
 // room for it there, else over the board, clear of the turn buttons and the message line,
 // so the player can always read the line and reach the buttons. The set-up and end windows

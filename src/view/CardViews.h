@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The four card windows: the property card, the trading card, the JFL card and the tax
 // card. Each draws its model and forwards its buttons, keys and close box.
 #pragma once

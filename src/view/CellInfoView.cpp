@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The property card: twelve faces, ten printed values, eleven buttons in two layouts.
 #include "view/CardViews.h"
 #include "view/Keys.h"

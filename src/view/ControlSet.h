@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The widgets of one window's named controls, made from its table of places, and the one
 // routine that brings them to a model's state: shown, enabled and caption by name.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The word to a human in debt, drawn over the main window's free panel, with the button
 // that raises the sum as a computer would. Hidden while nobody at the screen owes money.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one way a view's click, key or menu entry reaches the models: through the run, so a
 // new game or the end of the program asked for inside it happens at the right moment.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The end window, which names the winner, and the About window with the team.
 #include <QPainter>
 

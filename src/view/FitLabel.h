@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A printed label that keeps its whole text in view: it sets the text as TextFit chooses
 // and paints it with exactly that font and those flags.
 #pragma once

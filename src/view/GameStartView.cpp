@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The set-up window: the name entry, the choice of a human or a computer, fourteen tokens,
 // the list of players added and the two buttons.
 #include <QEvent>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The History window: the story of the game as a scrolling list, newest last, each line
 // with its round, the player's token and name.
 #pragma once

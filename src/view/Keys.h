@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keys on a window's buttons: Alt and a letter clicks a named button while it is shown and
 // enabled, as a mnemonic does; the letter is drawn underlined, the caption's text stays as
 // the model writes it.

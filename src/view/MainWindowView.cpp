@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "view/MainWindowView.h"
 
 #include <QAbstractButton>
@@ -5,8 +6,8 @@
 #include <QMenuBar>
 #include <QResizeEvent>
 #include <QScreen>
-#include <cmath>
 #include <QShortcut>
+#include <cmath>
 
 #include "art/Tokens.h"
 #include "view/Keys.h"

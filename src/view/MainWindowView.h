@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window: the board on the left, the panels of the players, the messages and the
 // current turn on the right, the five turn buttons over the centre of the board, and the
 // File and Help menus.

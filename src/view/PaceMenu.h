@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Game > Pace on the main window: "As designed", "Fast" and "Instant", one checked. The
 // entries set the pace of the waits at once; the menu stays open to clicks while a card
 // is up, so a computer's card can be hurried too.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A picture on a window, painted at the screen's pixel ratio each time it is drawn, that
 // can take clicks and wear the single border of a chosen token.
 #pragma once

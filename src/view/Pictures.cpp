@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Picture roles to art functions, and the cells' printed faces read from the game's cells.
 #include "view/Pictures.h"
 

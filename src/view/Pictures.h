@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one mapping from the pictures the windows show, by role, to the painting code of
 // src/art. Every view paints through these functions, so a picture is changed in one place.
 // Each paints into a rectangle in logical pixels and so stays sharp at any pixel ratio.

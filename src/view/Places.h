@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where each named control of a window stands, in twips (15 to the pixel), and what kind
 // of widget shows it: one table per window. The names are those a model gives in
 // forEachControl.

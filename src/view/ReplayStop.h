@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The "Stop" of a game watched again, over the top of the board's centre: the only thing
 // on the main window that answers while the game replays. The rest of the game then plays
 // at once, without a wait or a sound, and Game Over comes back.

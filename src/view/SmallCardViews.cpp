@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The JFL card, which shows a drawn card's text, and the tax card, which takes the tax.
 #include "view/CardViews.h"
 #include "view/Keys.h"

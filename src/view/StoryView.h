@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // "The story of the game": a window beside Game Over with the chart of every player's worth
 // after each round, the game's figures, and "Watch the game again". It shows while the end
 // window does.

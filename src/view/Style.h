@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The look of the widgets that are not pictures: the buttons, text entries and printed
 // labels, in the palette of the pictures.
 #pragma once

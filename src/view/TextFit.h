@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How a text is set in its box so that it shows whole: on one line at its own size if it
 // can, else wrapped between words, in type that shrinks down to the legible floor; a word
 // wider than the box even then (a long name) is broken, at the largest size that holds it.

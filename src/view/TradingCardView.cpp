@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The trading card: two faces, the names of the cell and the two sides, and the amount box
 // whose every key goes to the model's filter.
 #include <QKeyEvent>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the small windows share: a fixed client area with a title, a background picture
 // under everything, the named controls of the window's table, the close box passed on to
 // the model, and visibility that follows the model's.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the board prints on each of its forty cells: the kind of face, the name, the
 // price or the tax, and the district of a street. Views paint the board from this alone.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The property card: one Street, Metro or Utility with its values, and the buttons by
 // which a human buys, pays rent, builds, sells, mortgages, releases and opens a trade.
 // In a computer's turn the same card comes up with its buttons closed, for the human to

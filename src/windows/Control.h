@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The state of one control as a view draws it: shown, enabled, caption.
 #pragma once
 

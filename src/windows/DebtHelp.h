@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The word to a human in debt on the main window's free panel: how much is owed and the
 // ways out, and the offer to raise the sum as a computer would (RaisePlan), made only
 // once the human says yes. It never trades, never declares bankruptcy and never acts in a

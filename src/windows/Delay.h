@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Waits counted in ticks of 80 ms. A real wait keeps serving window events, so a click
 // can run to its end inside it; a headless run returns at once.
 #pragma once

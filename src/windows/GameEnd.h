@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The end of a game: the winner, read from the players' panel of the main window, and
 // the choice of a new game or the end of the program.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One run of the program: the board with its source of chance, the main window, the four
 // card windows, the set-up, end and About windows, and the sound, delay and message-box
 // interfaces that the desktop program or a test supplies. Nothing here is global, so

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The set-up window: the user composes the table of players, a name or the word for a
 // computer and a token for each, then starts the game. The next player's kind is held
 // by the controls alone: a computer exactly when Image1 is hidden.

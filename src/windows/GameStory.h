@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The story of one game, gathered from what the rules tell the main window: every
 // player's worth after each round (as the computer counts it), the round of each
 // bankruptcy, the rent paid and received, purchases, trades, hotels built and the

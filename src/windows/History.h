@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The story of one game, kept in memory for the History window: every message of the
 // message line and every payment, purchase, mortgage, release, hotel, trade, card drawn,
 // jail and bankruptcy, with the round and the player. It learns all of it from what the

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "windows/JFLCardWindow.h"
 
 #include "windows/Windows.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The card that shows a drawn JFL card's text. It closes by itself after the standard
 // wait, for humans and computers alike; OK only closes it sooner.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window as a model: the board's marks, the players' panel, the message line
 // and the five buttons of the turn, with the handlers of its clicks and menu. The rules
 // tell it what to show through MainWindowPort; a view draws this state and forwards

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the rules ask of the main window. The rules call these in a fixed order; the
 // window model, a test recorder or a silent stand-in answers them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window as the rules reach it: every call goes to the window model, then to a
 // watcher when one is set, so a tool can keep its own books of a game that people play
 // through the windows without standing in for the window.

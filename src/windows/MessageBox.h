@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The modal message boxes of the set-up window. The core owns the interface so that a
 // test sees title, text and icon; the desktop program shows a real modal box.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // File > Voice: reads each new message of the message line aloud while enabled. Off when
 // the program starts; Mute stops the sentence being read.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How fast the game shows itself: the waits as designed, a quarter of them, or none.
 // The pace changes only what the eye and the ear get; every effect, message and draw of
 // chance comes in the same order at every pace.

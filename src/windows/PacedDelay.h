@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game's waits at the chosen pace. A wait asks a clock to wait for the time the pace
 // gives; a change of pace wakes every wait in progress, which then waits only for what
 // is left of its new length, or ends at once. With no time to wait, the clock still

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sounds at the chosen pace: at Instant nothing is played, since nothing is seen
 // either; volumes always pass, so muting holds whatever the pace.
 #pragma once

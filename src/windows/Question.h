@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A question put to the person at the screen, answered yes or no. The core owns the
 // interface so that a test scripts the answers; the desktop program shows a modal box.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The helping hand of a human in debt: what a computer in the same place would give up to
 // bring the balance back to 0, worked out on a copy of the player's holdings, so that the
 // proposal is the computer's own choice and nothing moves until the human says yes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game's source of chance with a memory: it keeps every draw of the game being played,
 // and can give the same draws again, in order, so that the game can be watched again.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Sounds by effect on one of four players. Playing never waits and never fails: a
 // missing file or device is silence, and no rule depends on it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The trading card: a buyer's face to make an offer for another player's cell, and an
 // owner's face to take it, ask for more or turn it down. One window serves both sides,
 // one after the other, so at most one offer is on the table.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A voice that reads sentences aloud. Saying never waits and never fails: with no engine
 // or no device it is silence, and no rule depends on it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Named codes that pass between the rules and the windows, so that a view's table of
 // pictures is checked by the compiler rather than by bare numbers.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The windows that the rules talk to, gathered for one game: the main window (behind
 // its port), the sound, the delays, and the four card windows, which are plain models.
 // The cards are only declared here: a file that opens one includes that card's header,

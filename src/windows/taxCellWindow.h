@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tax card: shows the flat sum of a tax cell and takes the payment. A human who
 // cannot pay sees the shortfall and a closed button until money comes in.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A cell and its card share one band colour; dice faces show their number of pips.
 #include <gtest/gtest.h>
 

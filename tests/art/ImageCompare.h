@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Small pixel measures for the picture tests.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where things sit: the cell sizes close the ring, every band faces the centre, and the
 // places the program writes or puts controls on are left free of printed ink.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Marks laid over cells: the side hotel is the upright one turned, the mortgage stamp lets
 // the cell show through, and pictures come out at the ratio asked for.
 #include <gtest/gtest.h>

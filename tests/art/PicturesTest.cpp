@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every picture in the catalogue: painted at 1x and 2x it has its size, is not blank, and
 // every piece of text lies inside its box and the picture at 7 px or more.
 #include <gtest/gtest.h>

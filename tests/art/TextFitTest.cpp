@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Text fitting: wrap before shrinking, never below 7 px, and report honestly when a text
 // cannot fit, so the picture tests can catch it.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The fourteen tokens must be told apart: by silhouette and colour at 64 px, by colour alone
 // on the 10 by 8 squares of the board.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The picture tests paint through QtGui, which needs an application; without a display the
 // offscreen platform serves.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The About window gives every member a face of their own and uses its whole height.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The icons a desktop shows: the scalable SVG draws the same picture as the painted PNGs,
 // and the small sizes are painted for their size rather than shrunk from a big one.
 #include <gtest/gtest.h>

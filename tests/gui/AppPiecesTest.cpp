@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The real delay, the sound files and volumes, the command line, and the text entries'
 // filters as a person types into them.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The board to a screen reader: forty buttons named as the cells print, lying where the
 // cells lie at any size, whose press does what a click on the cell does.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The board keeps its pieces as pictures; drawn into a picture twice the size, as on a
 // high-density screen, a die must come out as sharp as one painted there directly.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the windows open: the cards and About belong to the main window and leave its turn
 // buttons and message line in view, beside the board where the screen has room, over it
 // where it has not; the set-up and end windows open in the middle of the screen.

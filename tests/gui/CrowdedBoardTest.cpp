@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The board at its busiest: six players, every buyable cell owned, a third mortgaged, a
 // third with four hotels, six tokens on a side cell and on a corner. The marks lie on the
 // band facing the centre and past it, so no cell's name is covered; the picture is written

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The debt panel and the close box through the real widgets: the line and the hand's
 // button come up over the free panel, the hand asks, and the close box asks in a game.
 #include <gtest/gtest.h>

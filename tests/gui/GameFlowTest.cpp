@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A person's way through the program with the mouse and keyboard: seating players past
 // both refusals, a roll and a purchase on the property card, a computer's turn with its
 // card up, the About box, the end window, a new game, and closing in the middle of a wait.

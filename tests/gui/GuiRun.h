@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One run of the game with its real windows for a test: a recorded message box instead of
 // a modal one, silence, short real waits, and a chosen source of chance.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The GUI tests' main: one QApplication for all, on the offscreen platform unless a
 // display is chosen, with the program's style sheet.
 #include <gtest/gtest.h>

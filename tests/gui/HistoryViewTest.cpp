@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The History window through the real widgets: View > History and its key open it, and
 // its list follows the game, newest last.
 #include <gtest/gtest.h>

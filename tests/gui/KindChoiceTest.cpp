@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The human and computer keys of the set-up window read as a choice: the kind in force is
 // marked as chosen, the other kind is the switch to it, and a click moves the mark.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Game > Pace on the real window: a pick inside a real wait shortens it, the menu answers
 // while a card holds the board, and the command line sets the pace to start with.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A question box opened and answered inside a wait leaves the waits as they were: the one
 // it was opened in ends on time and the next one waits its full length.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A careless person at the real windows, offscreen, with real (short) waits: seeded random
 // clicks on whatever is shown and open, typing into the entries, cards closed by their
 // frames, menu entries, and clicks that land while dice roll, tokens walk and computers'

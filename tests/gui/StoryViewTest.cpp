@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The story window at the end of a whole game of computers: it shows with Game Over, its
 // chart has a line per player as the story tells it, each line's end sits at its worth,
 // and the window is painted sharp at 1x and 2x.

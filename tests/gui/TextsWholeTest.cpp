@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every text of every window shows whole in its worst case: six players with names of
 // twenty wide letters, balances of -32768 and "Bankrupt", the longest messages of the game
 // and the longest strings of each card. Checked with the font, the flags and the box each

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The trading card's amount box as two people use it: the buyer types a sum and makes the
 // offer, the card turns to the owner, who clicks into the box and types a counter-offer.
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // File > Voice through the real menu: Enable and Mute reach the narrator, and the desktop
 // voice with no audio device is silent and harmless.
 #include <gtest/gtest.h>

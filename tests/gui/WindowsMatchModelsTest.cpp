@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every window's widgets agree with its model after a refresh, and every picture of every
 // window is written at 1x and 2x for a person to look at.
 #include <gtest/gtest.h>

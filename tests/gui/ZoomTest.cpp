@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The main window at other sizes: everything stands at its design place times one scale, so
 // a click at the scaled centre of Roll Dice, of a cell and of a card's button reaches it;
 // a window of another shape keeps the proportions, with the board in its middle.

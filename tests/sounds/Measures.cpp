@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Levels, lengths, hits and pitch estimates of a sample buffer.
 #include "Measures.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Listening by numbers: the few measurements the sound tests make on 16-bit samples.
 // Full scale is 32767; times are in seconds at the file's rate.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The generated sound files as the game will find them: one per effect under its own name,
 // in the format the player expects, levelled and faded, padded with silence, and shaped
 // the way each effect should sound (a rattle that slows, a siren that alternates ...).

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Walks the RIFF chunks: "fmt " gives the format, "data" the samples; others are skipped.
 #include "WavReader.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tests' own WAV reader, written apart from the generator's writer so a fault in one
 // is not mirrored by the other. It reads any chunk layout and reports what it found.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writes the application icon into a hicolor icon theme folder:
 //   gildenway-appicon THEMEDIR
 // gives THEMEDIR/NxN/apps/gildenway.png for every size a desktop asks for, each painted at

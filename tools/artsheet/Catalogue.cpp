@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The catalogue of pictures. The board's names, prices and districts are the game's own
 // table, copied here so the pictures can be looked at without the game.
 #include "Catalogue.h"

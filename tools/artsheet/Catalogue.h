@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every picture of the game with its size and a call that paints it: the contact sheets
 // show this list and the tests walk it.
 #pragma once

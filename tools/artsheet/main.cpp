@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // gildenway-artsheet OUTDIR: writes contact sheets of every picture, one per window, at 1x
 // and 2x (OUTDIR/board@1x.png, OUTDIR/board@2x.png, ...), and the board assembled from its
 // cells. Each picture is painted at the sheet's ratio, never scaled.

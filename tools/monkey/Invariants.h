@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What must hold between any two clicks of a run, whatever was clicked: positions on the
 // ring, balances inside their range, owners' tables that agree with the cells, hotels only
 // on owned, free streets, a way out for a human in debt, a main window that is usable

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The books of a game played through the windows: each movement of money that the rules
 // tell the main window is explained as a payment that the rules allow, and the players'
 // money changes only by what the bank paid out or took in.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A careless person at the window models: seeded random clicks on whatever is shown and
 // open, random typing, cards closed by their frames, clicks landing inside waits, and
 // after every step a check of the game's invariants. Runs a whole program again and

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The command line of gildenway-monkey: --seed S and --steps N, or --help.
 #pragma once
 

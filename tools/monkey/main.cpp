@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // gildenway-monkey: random clicks and typing through whole runs of the program's window
 // models, checking the game's invariants after every step.
 #include <cstdio>

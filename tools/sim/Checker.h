@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Checks a headless game after each turn: the turn's ledger, the players, the cells and
 // the deck.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A main window that shows nothing and writes down what the rules tell it: every
 // movement of money, every throw, every walk of a token and every change shown on a cell.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The simulator's options: the numeric ones with their ranges, and the switches.
 #include "Options.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The simulator's command line: what each option accepts, read into a run's settings or
 // into one line that says what was wrong.
 #pragma once

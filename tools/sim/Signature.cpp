@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The hash of a board and the fixed games of the signature.
 #include "Signature.h"
 

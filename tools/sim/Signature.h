@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The determinism signature: a fixed set of seeded games whose end states are hashed
 // into one line, so that any change to what the rules do shows as a changed line.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How the simulator's checks name players, cells and the money in play.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One headless game of computer players, and runs of them spread over threads.
 #include "Simulation.h"
 

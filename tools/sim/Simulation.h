@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Headless games of computer players only: one game at a time through playGame, or many
 // spread over threads through playGames. The same seed always gives the same games.
 #pragma once

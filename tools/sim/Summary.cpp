@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The counts of a run and the distribution of the finished games' turns.
 #include "Summary.h"
 

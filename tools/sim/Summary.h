@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What a run of games came to, gathered one game at a time and in any order, so that
 // the memory it takes does not grow with the number of games.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The ledger's own tables of every amount the game can ask at a cell: prices, rents by
 // hotels, hotel costs, mortgage and release values, taxes, card sums, Go money and the
 // jail fee. They are written out here, not taken from the cells or the players, on

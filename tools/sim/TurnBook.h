@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The ledger of one turn: every movement of money explained as a payment that the rules
 // allow, at an amount from the ledger's own tables, or named as the fault it is.
 #pragma once

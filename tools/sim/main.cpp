@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // gildenway-sim: plays many games of computer players without windows and reports how
 // they went, optionally checking the rules' bookkeeping after every turn; or plays the
 // fixed games of the determinism signature and prints its line.

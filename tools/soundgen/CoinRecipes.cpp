@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Coins: small discs that ring with a few bright, inharmonic partials and die fast. Paying
 // runs down in pitch, receiving runs up and lets the last coin ring.
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Coefficients of the second-order filters and their direct-form processing.
 #include "Filter.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Second-order filters (the usual audio cookbook forms) for shaping noise and tones.
 #pragma once
 

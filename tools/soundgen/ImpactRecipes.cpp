@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The unpitched effects: things hitting things. Each is a short noise transient for the
 // contact, a decaying body (sine thump or struck partials) for the material, and for the
 // bigger ones a little room.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Windowed RMS and a look-ahead peak limiter.
 #include "Loudness.h"
 

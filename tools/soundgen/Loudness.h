@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How loud a sound is heard, and a limiter that keeps its peaks under full scale. Effects are
 // levelled by loudness rather than peak: a rattle of short clicks and a held siren tone with
 // the same peak differ by many decibels to the ear.

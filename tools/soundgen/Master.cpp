@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Levelling, fading and padding a finished recipe.
 #include "Master.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The last step of every effect, the same for all so the set plays at one level: no DC,
 // a short fade at each end, the loudness of the sounding part at -17 dBFS RMS (an accent a
 // little above), peaks limited under full scale, and trailing silence that the game's

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The pitched effects. All sit in C major, played on the shared chime and brass, so the
 // game's music and its cues belong together.
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Random numbers that come out the same on every machine and every build, so the
 // generated files only change when a recipe does. Each recipe seeds its own source.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One recipe per sound effect of the game. A recipe gives the dry-to-room signal of its
 // effect and how long its fade-out should be; render() masters it the same way for all.
 #pragma once

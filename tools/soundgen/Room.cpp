@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Four damped feedback combs in parallel, then two allpass diffusers: the classic small
 // reverberator, enough for a short tail on effects of a few hundred milliseconds.
 #include "Room.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A small, dark room around a dry sound: the short tail that makes the effects feel
 // played in one place rather than printed as numbers.
 #pragma once

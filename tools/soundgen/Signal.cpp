@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Mixing and measuring whole signals.
 #include "Signal.h"
 

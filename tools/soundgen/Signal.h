@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sample buffer every part of the generator passes around: mono floats at 44.1 kHz,
 // full scale at 1.0. Mixing and timing helpers work in seconds so recipes read like scores.
 #pragma once

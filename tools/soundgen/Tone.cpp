@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The struck, thumped and noisy primitives.
 #include "Tone.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The few sound primitives every recipe is built from: struck partials (chimes, metal,
 // coins), sine thumps with a pitch glide, and filtered noise bursts. Each returns a fresh
 // signal that starts at its onset; recipes place them in time with mixInto.

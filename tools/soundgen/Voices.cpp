@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The chime and the brass: additive synthesis with envelopes per partial.
 #include "Voices.h"
 

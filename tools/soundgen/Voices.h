@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The two pitched instruments the set shares, so the start fanfare, the player cues and
 // the bankrupt figure sound like one game: a bell-like chime and a soft brass.
 #pragma once

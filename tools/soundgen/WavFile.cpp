@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The RIFF/WAVE layout, written byte by byte in little-endian order whatever the machine.
 #include "WavFile.h"
 

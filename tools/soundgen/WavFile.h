@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writing a signal as a 16-bit PCM mono WAV file at the generator's sample rate.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // gildenway-soundgen OUTDIR: synthesises every sound effect of the game into OUTDIR, under
 // the file names the game plays them by. The same program always writes the same bytes.
 #include <cstddef>

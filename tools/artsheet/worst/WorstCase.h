@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The game at its most crowded, with its real windows: six players with names of twenty
 // wide letters, every buyable cell owned, a third mortgaged, a third with four hotels,
 // balances of -32768 and "Bankrupt", and the longest strings of every message and card.

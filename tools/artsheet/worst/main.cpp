@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // gildenway-artsheet-worst OUTDIR: the worst-case sheet, at 1x and 2x (OUTDIR/worst-case@1x.png,
 // OUTDIR/worst-case@2x.png). The real windows of the game at their most crowded: the board
 // with every mark and six tokens on a side cell and on a corner, the longest names,
