@@ -184,5 +184,23 @@ TEST_F(ClickHoles, ASumBeyondWhatABalanceHoldsMakesNoTrade) {
     EXPECT_EQ(seat(0).getBalance(), 1550);
 }
 
+// The end window reads the winner off the panel; the last row in use may be a bankrupt's.
+TEST_F(ClickHoles, TheEndWindowNamesAWinnerWhoIsNotInTheLastRowUsed) {
+    seatThree();
+    nextThrow(1, 2);  // Ann buys Saint-Jacques
+    roll();
+    click([&] { card().buy_Click(); });
+    endTurn();
+    for (int loser : {1, 2}) {
+        ASSERT_EQ(&board().getCurrPlayer(), &seat(loser));
+        seat(loser).debit(1600);
+        click([&] { main().declareBank_Click(); });
+        ASSERT_TRUE(seat(loser).isBankrupt2());
+    }
+    ASSERT_TRUE(run->gameEnd().isVisible());
+    EXPECT_EQ(run->gameEnd().Label1().caption, "Ann, the richest person in Kestrovia!");
+    EXPECT_EQ(run->gameEnd().closingLine(), "The city is yours.");
+}
+
 }  // namespace
 }  // namespace gw::test
