@@ -202,5 +202,23 @@ TEST_F(ClickHoles, TheEndWindowNamesAWinnerWhoIsNotInTheLastRowUsed) {
     EXPECT_EQ(run->gameEnd().closingLine(), "The city is yours.");
 }
 
+// A trading card asked from a property card left up by a buyer who has since gone bankrupt
+// does not open: the buyer has nothing left to deal with.
+TEST_F(ClickHoles, ATradeAskedByABuyerWhoWentBankruptOpensNoDeal) {
+    seatThree();
+    nextThrow(1, 2);  // Ann buys Saint-Jacques
+    roll();
+    click([&] { card().buy_Click(); });
+    endTurn();
+    click([&] { main().cell_Click(3); });  // Bob looks at Ann's street
+    ASSERT_TRUE(card().isVisible());
+    seat(1).debit(1600);
+    click([&] { main().declareBank_Click(); });
+    ASSERT_TRUE(seat(1).isBankrupt2());
+    click([&] { card().trade_Click(); });
+    EXPECT_FALSE(windows().trading.isVisible());
+    EXPECT_EQ(board().propertyAt(3)->getProp().getOwners(), &seat(0));
+}
+
 }  // namespace
 }  // namespace gw::test
