@@ -19,19 +19,6 @@
 namespace gw::test {
 namespace {
 
-void seatAnnAndAComputer(GuiRun& gui) {
-    GameStart& start = gui.run.gameStart();
-    start.NickName_Change("Ann");
-    start.Token_Click(0);
-    start.Command1_Click();
-    start.NickName_Change("Robot");
-    start.Image1_Click();
-    start.Token_Click(1);
-    start.Command1_Click();
-    start.Command2_Click();
-    gui.settle();
-}
-
 // Where a cell of the design lies on the screen at a scale.
 QRect screenCell(view::BoardWidget& board, int cellId, qreal scale) {
     const QRectF design = view::cellRect(cellId);
@@ -41,7 +28,7 @@ QRect screenCell(view::BoardWidget& board, int cellId, qreal scale) {
 
 TEST(BoardAccessible, FortyCellButtonsNamedAsTheCellsAndPlacedAtTheZoom) {
     GuiRun gui(std::make_unique<SeededRandom>(4));
-    seatAnnAndAComputer(gui);
+    gui.seatAnnAndAComputer();
     view::MainWindowView& main = gui.program->mainView();
     view::BoardWidget& board = main.board();
     QAccessibleInterface* boardFace = QAccessible::queryAccessibleInterface(&board);
@@ -80,7 +67,7 @@ TEST(BoardAccessible, FortyCellButtonsNamedAsTheCellsAndPlacedAtTheZoom) {
 
 TEST(BoardAccessible, PressingACellOpensItsCardAsAClickDoes) {
     GuiRun gui(std::make_unique<SeededRandom>(4));
-    seatAnnAndAComputer(gui);
+    gui.seatAnnAndAComputer();
     view::MainWindowView& main = gui.program->mainView();
     main.zoomTo(1.5);
     gui.settle();
@@ -104,7 +91,7 @@ TEST(BoardAccessible, PressingACellOpensItsCardAsAClickDoes) {
 // The panels' painted tokens are named: each row's token and player, and whose turn it is.
 TEST(BoardAccessible, PanelsNameTheTokensTheyShow) {
     GuiRun gui(std::make_unique<SeededRandom>(4));
-    seatAnnAndAComputer(gui);
+    gui.seatAnnAndAComputer();
     view::MainWindowView& main = gui.program->mainView();
     QStringList names;
     for (const QWidget* w : main.client().findChildren<QWidget*>()) names << w->accessibleName();
@@ -124,7 +111,7 @@ TEST(BoardAccessible, PanelsNameTheTokensTheyShow) {
 // The Alt letter is drawn underlined; the caption the model writes stays as it is.
 TEST(BoardAccessible, TurnButtonsUnderlineTheirAltLetterAndKeepTheirCaptions) {
     GuiRun gui(std::make_unique<SeededRandom>(4));
-    seatAnnAndAComputer(gui);
+    gui.seatAnnAndAComputer();
     const view::ControlSet& controls = gui.program->mainView().controls();
     const MainWindow& model = gui.run.mainWindow();
     struct Key {

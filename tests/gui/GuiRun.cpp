@@ -20,6 +20,19 @@ void GuiRun::seatAnnAndBob() {
     });
 }
 
+void GuiRun::seatAnnAndAComputer() {
+    GameStart& start = run.gameStart();
+    start.NickName_Change("Ann");
+    start.Token_Click(0);
+    start.Command1_Click();
+    start.NickName_Change("Robot");  // the entry's name is refused twice, even for a computer
+    start.Image1_Click();
+    start.Token_Click(1);
+    start.Command1_Click();
+    start.Command2_Click();
+    settle();
+}
+
 void savePictures(QWidget& window, const std::string& name) {
     const QString dir = QDir::tempPath() + QStringLiteral("/gildenway-gui");
     QDir().mkpath(dir);

@@ -30,6 +30,8 @@ public:
 
     // Seats two humans, Ann and Bob, by the set-up window's clicks, and starts their game.
     void seatAnnAndBob();
+    // Seats Ann, a human, and the computer Robot, starts, and lets play run until Ann rolls.
+    void seatAnnAndAComputer();
 
     // Lets queued events run, then brings every window to its model.
     void settle() {

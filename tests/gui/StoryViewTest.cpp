@@ -62,13 +62,18 @@ TEST(StoryViewTest, ShowsWithGameOverAndDrawsEveryPlayersWorth) {
     savePictures(view, "story");
 }
 
+// Three computers play a seeded game to its end at once.
+void playThreeComputersToTheEnd(GuiRun& gui) {
+    gui.delay.pacing().setPace(Pace::Instant);
+    app::seatComputers(gui.program->dispatch(), gui.run, 3);
+    gui.settle();
+}
+
 // "Watch the game again" replays on the main window at Fast, with a Stop over the board;
 // Stop plays the rest at once and Game Over comes back on the same end.
 TEST(StoryViewTest, WatchTheGameAgainThenStop) {
     GuiRun gui(std::make_unique<SeededRandom>(9), 4);
-    gui.delay.pacing().setPace(Pace::Instant);
-    app::seatComputers(gui.program->dispatch(), gui.run, 3);
-    gui.settle();
+    playThreeComputersToTheEnd(gui);
     ASSERT_TRUE(gui.run.gameEnd().isVisible());
     const std::uint64_t end = sim::stateHash(gui.run.board());
     view::StoryView& story = gui.program->storyView();
@@ -102,9 +107,7 @@ TEST(StoryViewTest, WatchTheGameAgainThenStop) {
 // rest of the game has been played at once.
 TEST(StoryViewTest, TheCloseBoxDuringAReplayEndsTheProgram) {
     GuiRun gui(std::make_unique<SeededRandom>(9), 4);
-    gui.delay.pacing().setPace(Pace::Instant);
-    app::seatComputers(gui.program->dispatch(), gui.run, 3);
-    gui.settle();
+    playThreeComputersToTheEnd(gui);
     ASSERT_TRUE(gui.run.gameEnd().isVisible());
     const std::uint64_t end = sim::stateHash(gui.run.board());
     QTimer::singleShot(150, [&] { gui.program->mainView().close(); });

@@ -17,20 +17,6 @@
 namespace gw::test {
 namespace {
 
-// Ann, a human, and a computer; play runs until Ann is to roll.
-void seatAnnAndAComputer(GuiRun& gui) {
-    GameStart& start = gui.run.gameStart();
-    start.NickName_Change("Ann");
-    start.Token_Click(0);
-    start.Command1_Click();
-    start.NickName_Change("Robot");  // the entry's name is refused twice, even for a computer
-    start.Image1_Click();
-    start.Token_Click(1);
-    start.Command1_Click();
-    start.Command2_Click();
-    gui.settle();
-}
-
 // Clicks the window where a point of the design lands at the window's scale, on whatever
 // widget is there, and returns that widget.
 QWidget* clickAtDesignPoint(view::MainWindowView& main, QPointF design) {
@@ -47,7 +33,7 @@ TEST_P(Zoom, ClicksAtScaledPlacesReachRollDiceACardButtonAndACell) {
     auto random = std::make_unique<ScriptedRandom>(std::vector<double>{}, 7);
     ScriptedRandom& scripted = *random;
     GuiRun gui(std::move(random));
-    seatAnnAndAComputer(gui);
+    gui.seatAnnAndAComputer();
     view::MainWindowView& main = gui.program->mainView();
     const qreal scale = GetParam() / 100.0;
     main.zoomTo(scale);
@@ -88,7 +74,7 @@ INSTANTIATE_TEST_SUITE_P(AtTwoSizes, Zoom, ::testing::Values(150, 75));
 
 TEST(ZoomWindow, KeepsItsProportionsWithTheBoardInTheMiddleAndHasAViewMenu) {
     GuiRun gui(std::make_unique<SeededRandom>(4));
-    seatAnnAndAComputer(gui);
+    gui.seatAnnAndAComputer();
     view::MainWindowView& main = gui.program->mainView();
     main.action("Zoom200").trigger();
     gui.settle();
