@@ -42,8 +42,9 @@ public:
     virtual void showGameEnd() = 0;
 };
 
-// A main window that shows nothing: simulations and benchmarks.
-class NullMainWindow final : public MainWindowPort {
+// A main window that shows nothing: simulations, benchmarks, and watchers that hear only a
+// few of the calls.
+class NullMainWindow : public MainWindowPort {
 public:
     void showInfo(std::string_view) override {}
     void UpdateTurnPlaying(TurnButtons) override {}

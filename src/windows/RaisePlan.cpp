@@ -17,7 +17,7 @@ namespace {
 
 // A main window that keeps, in order, the sales and mortgages the copy makes, and nothing
 // once the copy goes bankrupt.
-class StepLog final : public MainWindowPort {
+class StepLog final : public NullMainWindow {
 public:
     const Board* board = nullptr;
     std::vector<RaiseStep> steps;
@@ -33,17 +33,6 @@ public:
         }
     }
     void showBankRupt() override { bankrupt = true; }
-    void showInfo(std::string_view) override {}
-    void UpdateTurnPlaying(TurnButtons) override {}
-    void Showdice(Integer, Integer) override {}
-    void MoveToken(Integer, Integer, Integer) override {}
-    void UpdatePlayers() override {}
-    void showCell(const OnCell&, Integer) override {}
-    void showOwner(Integer) override {}
-    void showInJail() override {}
-    void showNegBalance(bool) override {}
-    void setEnabled(bool) override {}
-    void showGameEnd() override {}
 };
 
 // The player's balance and cells, hotels and mortgages included, on a board of its own
