@@ -9,7 +9,7 @@ namespace gw {
 
 class JFL final : public BoardCell {
 public:
-    explicit JFL(std::unique_ptr<cell> plain) : BoardCell(CellKind::JFL, std::move(plain)) {}
+    explicit JFL(cell plain) : BoardCell(CellKind::JFL, std::move(plain)) {}
     void doAction(player& p) override;
 };
 

@@ -3,8 +3,6 @@
 // landing. Kinds are told apart by `kind()`; the as... casts give the concrete class.
 #pragma once
 
-#include <memory>
-
 #include "cells/cell.h"
 
 namespace gw {
@@ -29,7 +27,7 @@ enum class CellKind : std::uint8_t {
 
 class BoardCell {
 public:
-    BoardCell(CellKind kind, std::unique_ptr<cell> plain) : kind_(kind), cCell_(std::move(plain)) {}
+    BoardCell(CellKind kind, cell plain) : kind_(kind), cCell_(std::move(plain)) {}
     virtual ~BoardCell() = default;
     BoardCell(const BoardCell&) = delete;
     BoardCell& operator=(const BoardCell&) = delete;
@@ -49,18 +47,19 @@ public:
     // The landing of a token.
     virtual void doAction(player& p) = 0;
     // Redraws the tokens that stand here.
-    void display() { cCell_->display(); }
+    void display() { cCell_.display(); }
 
-    cell& getCell() const { return *cCell_; }
-    Integer Cell_getId() const { return cCell_->getId(); }
-    const std::string& Cell_getName() const { return cCell_->getName(); }
+    cell& getCell() { return cCell_; }
+    const cell& getCell() const { return cCell_; }
+    Integer Cell_getId() const { return cCell_.getId(); }
+    const std::string& Cell_getName() const { return cCell_.getName(); }
 
 protected:
-    void Cell_doAction(player& p) { cCell_->doAction(p); }
+    void Cell_doAction(player& p) { cCell_.doAction(p); }
 
 private:
     CellKind kind_;
-    std::unique_ptr<cell> cCell_;
+    cell cCell_;
 };
 
 }  // namespace gw

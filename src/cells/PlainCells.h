@@ -16,8 +16,7 @@ public:
 
 class goToJail final : public BoardCell {
 public:
-    explicit goToJail(std::unique_ptr<cell> plain)
-        : BoardCell(CellKind::GoToJail, std::move(plain)) {}
+    explicit goToJail(cell plain) : BoardCell(CellKind::GoToJail, std::move(plain)) {}
     void doAction(player& p) override;
 };
 

@@ -26,9 +26,10 @@ public:
 
     // The rent due now; for a street it counts the hotels.
     virtual Integer getRent() const { return prop_.getRent(); }
-    virtual Integer getHotelCount() const { return 0; }
+    // Always 0 but on a street; kept here so that asking any buyable cell costs no call.
+    Integer getHotelCount() const { return hotelCount_; }
     // 1 to 8 the district, 9 a metro station, 10 a utility.
-    virtual Integer groupNumber() const = 0;
+    Integer groupNumber() const { return group_; }
 
     // A token lands: the offer to buy, the demand for rent, or nothing.
     void doAction(player& p) override;
@@ -37,27 +38,27 @@ public:
     void showInfo(player& p, Integer& opt);
 
 protected:
-    PropertyCell(CellKind kind, std::unique_ptr<cell> plain, Integer price)
-        : BoardCell(kind, std::move(plain)), prop_(getCell(), price) {}
+    PropertyCell(CellKind kind, cell plain, Integer price, Integer group)
+        : BoardCell(kind, std::move(plain)), prop_(getCell(), price), group_(group) {}
     // Price, bare rent and mortgage value; a street adds its hotel figures.
     virtual CardValues cardValues() const;
+    void setHotelCount(Integer hotels) { hotelCount_ = hotels; }
 
 private:
     Property prop_;
+    Integer group_;
+    Integer hotelCount_ = 0;
 };
 
 class Metro final : public PropertyCell {
 public:
-    Metro(std::unique_ptr<cell> plain, Integer price)
-        : PropertyCell(CellKind::Metro, std::move(plain), price) {}
-    Integer groupNumber() const override { return 9; }
+    Metro(cell plain, Integer price) : PropertyCell(CellKind::Metro, std::move(plain), price, 9) {}
 };
 
 class Utility final : public PropertyCell {
 public:
-    Utility(std::unique_ptr<cell> plain, Integer price)
-        : PropertyCell(CellKind::Utility, std::move(plain), price) {}
-    Integer groupNumber() const override { return 10; }
+    Utility(cell plain, Integer price)
+        : PropertyCell(CellKind::Utility, std::move(plain), price, 10) {}
 };
 
 }  // namespace gw

@@ -2,42 +2,41 @@
 #include "cells/Street.h"
 
 namespace gw {
+namespace {
 
-Integer Street::getRent() const {
-    return hotelCount_ != 0 ? getRentWithHotels(hotelCount_) : getProp().getRent();
+// The rent of a street of that price with one to four hotels.
+std::array<Integer, kMaxHotels> hotelRentsFor(double price) {
+    return {rounded(price * 0.5), rounded(price * 1.2), rounded(price * 2), rounded(price * 2.5)};
 }
 
-Integer Street::getRentWithHotels(Integer hotels) const {
-    const double price = getProp().getPrice();
-    switch (hotels) {
-        case 1:
-            return rounded(price * 0.5);
-        case 2:
-            return rounded(price * 1.2);
-        case 3:
-            return rounded(price * 2);
-        case 4:
-            return rounded(price * 2.5);
-        default:
-            return 0;
-    }
+}  // namespace
+
+Street::Street(cell plain, Integer price, Integer distId)
+    : PropertyCell(CellKind::Street, std::move(plain), price, static_cast<Integer>(distId / 10)),
+      distId_(distId),
+      hotelRents_(hotelRentsFor(price)),
+      hotelCost_(rounded(price * 0.6)) {}
+
+Integer Street::getRent() const {
+    const Integer hotels = getHotelCount();
+    return hotels != 0 ? getRentWithHotels(hotels) : getProp().getRent();
 }
 
 void Street::addHotel() {
-    if (hotelCount_ >= kMaxHotels) return;
-    ++hotelCount_;
+    if (getHotelCount() >= kMaxHotels) return;
+    setHotelCount(static_cast<Integer>(getHotelCount() + 1));
     display();
 }
 
 void Street::destroyHotel() {
-    --hotelCount_;
+    setHotelCount(static_cast<Integer>(getHotelCount() - 1));
     display();
 }
 
 CardValues Street::cardValues() const {
     const Property& prop = getProp();
-    return {{prop.getPrice(), prop.getRent(), getRentWithHotels(1), getRentWithHotels(2),
-             getRentWithHotels(3), getRentWithHotels(4), prop.getMortgage(), getHotelCost()},
+    return {{prop.getPrice(), prop.getRent(), hotelRents_[0], hotelRents_[1], hotelRents_[2],
+             hotelRents_[3], prop.getMortgage(), hotelCost_},
             8};
 }
 

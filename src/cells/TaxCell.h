@@ -16,7 +16,7 @@ public:
     void doAction(player& p) override;
 
 protected:
-    TaxCell(CellKind kind, std::unique_ptr<cell> plain, Integer rent)
+    TaxCell(CellKind kind, cell plain, Integer rent)
         : BoardCell(kind, std::move(plain)), rent_(rent) {}
 
 private:
@@ -25,14 +25,12 @@ private:
 
 class IncomeTax final : public TaxCell {
 public:
-    explicit IncomeTax(std::unique_ptr<cell> plain)
-        : TaxCell(CellKind::IncomeTax, std::move(plain), 200) {}
+    explicit IncomeTax(cell plain) : TaxCell(CellKind::IncomeTax, std::move(plain), 200) {}
 };
 
 class LuxuryTax final : public TaxCell {
 public:
-    explicit LuxuryTax(std::unique_ptr<cell> plain)
-        : TaxCell(CellKind::LuxuryTax, std::move(plain), 75) {}
+    explicit LuxuryTax(cell plain) : TaxCell(CellKind::LuxuryTax, std::move(plain), 75) {}
 };
 
 }  // namespace gw

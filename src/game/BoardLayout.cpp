@@ -62,7 +62,7 @@ constexpr std::array<RingEntry, kCellCount> kRing = {{
     {"The Boulevard", CellKind::Street, 500, 82},
 }};
 
-std::unique_ptr<BoardCell> makeCell(const RingEntry& entry, std::unique_ptr<cell> plain) {
+std::unique_ptr<BoardCell> makeCell(const RingEntry& entry, cell plain) {
     switch (entry.kind) {
         case CellKind::Go:
         case CellKind::Jail:
@@ -98,8 +98,7 @@ void Board::init() {
 
 void Board::buildCells() {
     for (std::size_t i = 0; i < kRing.size(); ++i) {
-        auto plain = std::make_unique<cell>(static_cast<Integer>(i), kRing[i].name, *this);
-        cells_[i] = makeCell(kRing[i], std::move(plain));
+        cells_[i] = makeCell(kRing[i], cell(static_cast<Integer>(i), kRing[i].name, *this));
         properties_[i] = cells_[i]->asProperty();
         streets_[i] = cells_[i]->asStreet();
     }
