@@ -44,6 +44,11 @@ public:
     Street* streetAt(Integer pos) const {
         return onRing(pos) ? streets_[static_cast<std::size_t>(pos)] : nullptr;
     }
+    // The street of a district, by row (district 1 is row 0) and column (its first street
+    // is column 0); null for the third column of the two-street districts.
+    Street* streetInDistrict(int row, int column) const {
+        return districts_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+    }
     // Empties the player slots; init is what sets the counts back to 0.
     void deleteAllPlayer();
     // Stores the player in the next slot; false, and nothing stored, when six are seated.
@@ -101,6 +106,7 @@ private:
     // play asks for them dozens of times a turn.
     std::array<PropertyCell*, kCellCount> properties_{};
     std::array<Street*, kCellCount> streets_{};
+    std::array<std::array<Street*, 3>, 8> districts_{};
     Windows& windows_;
     std::unique_ptr<Random> random_;
     JFLDeck jflDeck_;

@@ -101,6 +101,10 @@ void Board::buildCells() {
         cells_[i] = makeCell(kRing[i], cell(static_cast<Integer>(i), kRing[i].name, *this));
         properties_[i] = cells_[i]->asProperty();
         streets_[i] = cells_[i]->asStreet();
+        if (Street* s = streets_[i]) {
+            districts_[static_cast<std::size_t>(s->district() - 1)]
+                      [static_cast<std::size_t>(s->streetNumber() - 1)] = s;
+        }
     }
 }
 

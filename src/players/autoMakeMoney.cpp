@@ -15,19 +15,15 @@ void player::autoMakeMoney(Integer amount) {
     if (balance_ >= amount) return;
     // Every step below needs a cell of the player's own, and none changes hands here:
     // they are looked up once, in the order of the board.
-    std::array<Integer, kCellCount> own{};
-    std::size_t ownCount = 0;
-    for (Integer i = 0; i < kCellCount; ++i) {
-        if (holds(i)) own[ownCount++] = i;
-    }
+    const CellList own = held_.inBoardOrder();
     for (int stage = 0; balance_ < amount; ++stage) {
         if (stage == kBankruptcyStage) {
             declareBankruptcy();
             return;
         }
-        for (std::size_t k = 0; k < ownCount && balance_ < amount; ++k) {
-            const Integer i = own[k];
-            const CellKind kind = board_.getCell(i)->kind();
+        for (const Integer i : own) {
+            if (balance_ >= amount) break;
+            const CellKind kind = board_.propertyAt(i)->kind();
             switch (stage) {
                 case 0:
                     if (kind == CellKind::Utility && canMort(i)) mortgageProp(i);

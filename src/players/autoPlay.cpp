@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A computer player's whole turn, in phases that Board.playTurn runs in order. Nothing
 // here is random and nothing here waits: the pacing lies in the cards' computerThink.
-#include <array>
-
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
 #include "game/Board.h"
@@ -20,15 +18,6 @@ constexpr Integer kBuildAbove = 200;
 constexpr Integer kKeepAtLeast = 100;
 constexpr int kBuildPasses = 4;
 constexpr int kHotelsForAnotherPass = 3;
-
-// The owner's table as ownDist reads it: a two-street district is whole with its two.
-bool holdsAWholeDistrict(const std::array<std::array<bool, 3>, 8>& owned) {
-    for (std::size_t r = 0; r < owned.size(); ++r) {
-        const bool twoStreets = r == 0 || r == owned.size() - 1;
-        if (owned[r][0] && owned[r][1] && (twoStreets || owned[r][2])) return true;
-    }
-    return false;
-}
 
 }  // namespace
 
@@ -70,8 +59,8 @@ void player::autoLeaveJailAndRoll() {
 
 void player::autoReleaseAndAct() {
     if (balance_ >= kReleaseFrom) {
-        for (Integer i = 0; i < kCellCount; ++i) {
-            if (!holds(i) || !board_.propertyAt(i)->getProp().isMortgaged2()) continue;
+        for (const Integer i : held_.inBoardOrder()) {
+            if (!board_.propertyAt(i)->getProp().isMortgaged2()) continue;
             if (canUnmort(i)) unmortgageProp(i);
         }
     }
@@ -79,8 +68,8 @@ void player::autoReleaseAndAct() {
 }
 
 void player::autoSettleTradeRaiseBuild() {
-    BoardCell* c = cellUnder();  // afresh: a card or the police may have moved the token
-    if (PropertyCell* prop = c->asProperty()) {
+    // Afresh: a card or the police may have moved the token.
+    if (PropertyCell* prop = propertyUnder()) {
         windows().cellInfo.computerThink();
         const player* owner = prop->getProp().getOwners();
         if (owner == nullptr) {
@@ -92,7 +81,7 @@ void player::autoSettleTradeRaiseBuild() {
             playSound(SoundEffect::Pay);
             payRent();
         }
-    } else if (c->isTax()) {
+    } else if (cellUnder()->isTax()) {
         windows().taxCard.computerThink();
         playSound(SoundEffect::Pay);
         payRent();
@@ -113,30 +102,32 @@ void player::autoSettleTradeRaiseBuild() {
 // Up to four passes from the end of the board down, one hotel a street a pass; a pass
 // that builds fewer than three ends the building.
 void player::autoBuild() {
-    if (!holdsAWholeDistrict(ownedStreets_)) {
+    if (wholeDistricts_ == 0) {
         // No street can take a hotel. canBuild on a street of one's own would still
         // have ownDist mark the two-street districts' missing column, so it is asked
         // once, from the end of the board down, until the marks stand.
         if (ownedStreets_[0][2] && ownedStreets_[7][2]) return;
-        for (Integer i = kCellCount - 1; i >= 0; --i) {
-            if (board_.streetAt(i) != nullptr && holds(i)) {
+        for (const Integer i : held_.fromTheEnd()) {
+            if (board_.streetAt(i) != nullptr) {
                 canBuild(i);
                 return;
             }
         }
         return;
     }
-    // Only one's own streets can take a hotel, and building changes no owner: they are
-    // looked up once, from the end of the board down.
-    std::array<Integer, kCellCount> own{};
-    std::size_t ownCount = 0;
-    for (Integer i = kCellCount - 1; i >= 0; --i) {
-        if (board_.streetAt(i) != nullptr && holds(i)) own[ownCount++] = i;
+    // Only the streets of one's whole districts can take a hotel, and building changes no
+    // owner: they are looked up once, from the end of the board down. The first canBuild
+    // marks the two-street districts as a call on any street of one's own would.
+    CellList streets;
+    for (const Integer i : held_.fromTheEnd()) {
+        const Street* s = board_.streetAt(i);
+        if (s != nullptr && wholeDistrict(static_cast<std::size_t>(s->district() - 1))) {
+            streets.add(i);
+        }
     }
     for (int pass = 0; pass < kBuildPasses; ++pass) {
         int built = 0;
-        for (std::size_t k = 0; k < ownCount; ++k) {
-            const Integer i = own[k];
+        for (const Integer i : streets) {
             if (!canBuild(i)) continue;
             playSound(SoundEffect::Building);
             buildHotel(i);

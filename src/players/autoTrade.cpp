@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How a computer completes a district: it asks the owner of the one street it lacks,
 // for a little more than half its price, through the same cards a human uses.
-#include <array>
+#include <algorithm>
+#include <cstdint>
 #include <string>
 
 #include "cells/Street.h"
@@ -14,36 +15,18 @@
 namespace gw {
 
 void player::autoTrade() {
-    // The district id of the street to ask for, by row of ownedStreets; 0 for none.
-    std::array<Integer, 8> wanted{};
-    for (int r = 0; r < 8; ++r) {
-        const auto& row = ownedStreets_[static_cast<std::size_t>(r)];
-        const bool twoStreets = r == 0 || r == 7;
-        const int held = row[0] + row[1] + (twoStreets ? 0 : row[2]);
-        if (!(held == 2 || (held == 1 && twoStreets))) continue;
-        for (int column = 0; column < 3; ++column) {
-            // The third column of a two-street district reads false until ownDist has run.
-            if (!row[static_cast<std::size_t>(column)]) {
-                wanted[static_cast<std::size_t>(r)] =
-                    static_cast<Integer>((r + 1) * 10 + column + 1);
-            }
-        }
-    }
-
+    // The districts one street short, as they stood before any offer of this turn.
+    const std::uint8_t oneShort = districtsOneShort_;
+    if (oneShort == 0) return;
     Windows& ui = windows();
-    for (const Integer distId : wanted) {
-        if (distId == 0) continue;
-        Street* target = nullptr;
-        Integer c = 0;
-        for (Integer i = 0; i < kCellCount; ++i) {
-            Street* s = board_.streetAt(i);
-            if (s != nullptr && s->getDistId() == distId) {
-                target = s;
-                c = i;
-                break;
-            }
-        }
+    for (std::size_t r = 0; r < ownedStreets_.size(); ++r) {
+        if (((oneShort >> r) & 1U) == 0) continue;
+        const auto& row = ownedStreets_[r];
+        const auto missing =
+            static_cast<int>(std::find(row.begin(), row.end(), false) - row.begin());
+        Street* target = board_.streetInDistrict(static_cast<int>(r), missing);
         if (target == nullptr || target->getProp().getOwners() == nullptr) continue;
+        const Integer c = target->Cell_getId();
         const int d = (static_cast<int>(board_.draw() * 10000) + 1) % 10;
         if (d <= 4) continue;
         const double factor = d / 10.0 / 20.0 + 0.5;

@@ -24,6 +24,10 @@ BoardCell* player::cellUnder() const {
     return board_.getCell(position_);
 }
 
+PropertyCell* player::propertyUnder() const {
+    return board_.propertyAt(position_);
+}
+
 void player::playSound(SoundEffect effect) const {
     windows().sound.play(MediaPlayer::Main1, effect);
 }

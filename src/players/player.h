@@ -10,12 +10,14 @@
 #include <string>
 
 #include "game/Integer.h"
+#include "players/CellSet.h"
 #include "windows/Sound.h"
 
 namespace gw {
 
 class Board;
 class BoardCell;
+class PropertyCell;
 class Windows;
 
 constexpr Integer kStartingBalance = 1500;
@@ -87,7 +89,7 @@ public:
     void unmortgageProp(Integer cellId);
     // Whether the player holds the buyable cell, kept as cells change hands so that the
     // computer's play need not ask all forty cells.
-    bool holds(Integer cellId) const { return ((heldCells_ >> cellId) & 1U) != 0; }
+    bool holds(Integer cellId) const { return held_.has(cellId); }
     bool ownsStreetEntry(int row, int column) const {
         return ownedStreets_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
     }
@@ -115,9 +117,16 @@ public:
 private:
     Windows& windows() const;
     BoardCell* cellUnder() const;
+    // The buyable cell under the token, or null.
+    PropertyCell* propertyUnder() const;
     // The tax due on a tax cell, with the lesser-of rule of income tax.
     Integer taxDue(const BoardCell& taxCell);
     void setStreetEntry(const BoardCell& c, bool owned);
+    // ownDist's side effect: the missing third column of the two-street districts marked held.
+    void markTwoStreetDistricts();
+    // Brings the district masks up to date with one row of ownedStreets_.
+    void updateDistrict(std::size_t row);
+    bool wholeDistrict(std::size_t row) const { return ((wholeDistricts_ >> row) & 1U) != 0; }
     void playSound(SoundEffect effect) const;
     void showPayingButtons() const;
     void autoLeaveJailAndRoll();
@@ -137,7 +146,12 @@ private:
     bool isBankrupt_ = false;
     Integer doubleCount_ = 0;
     std::array<std::array<bool, 3>, 8> ownedStreets_{};
-    std::uint64_t heldCells_ = 0;  // bit i: cell i is this player's
+    // The districts, one bit a row of ownedStreets_, kept as that table changes: those held
+    // whole (a two-street district with its two), and those that lack one street that the
+    // computer may ask for.
+    std::uint8_t wholeDistricts_ = 0;
+    std::uint8_t districtsOneShort_ = 0;
+    CellSet held_;
     Board& board_;
     bool didAction_ = false;
     bool walking_ = false;

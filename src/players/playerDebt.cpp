@@ -11,12 +11,12 @@
 namespace gw {
 
 Integer player::getRent() {
-    PropertyCell* prop = cellUnder()->asProperty();
+    const PropertyCell* prop = propertyUnder();
     return prop != nullptr ? prop->getRent() : Integer{0};
 }
 
 Integer player::canPayRent(Integer) {
-    const PropertyCell* prop = cellUnder()->asProperty();
+    const PropertyCell* prop = propertyUnder();
     if (prop == nullptr) return 0;
     const Integer bareRent = prop->getProp().getRent();
     if (bareRent <= balance_) return 0;
@@ -26,9 +26,9 @@ Integer player::canPayRent(Integer) {
 
 Integer player::calcAssets() {
     long long total = balance_;
-    for (Integer i = 0; i < kCellCount; ++i) {
+    for (const Integer i : held_.inBoardOrder()) {
         const PropertyCell* prop = board_.propertyAt(i);
-        if (prop == nullptr || prop->getProp().getOwners() != this) continue;
+        if (prop->getProp().getOwners() != this) continue;
         if (prop->getProp().isMortgaged2()) {
             total += rounded(prop->getProp().getPrice() * 0.5);
         } else {
@@ -61,7 +61,7 @@ Integer player::canPayTax(Integer) {
 
 void player::payRent() {
     BoardCell* c = cellUnder();
-    if (PropertyCell* prop = c->asProperty()) {
+    if (PropertyCell* prop = propertyUnder()) {
         const Integer rent = getRent();
         player* owner = prop->getProp().getOwners();
         if (owner == this || owner == nullptr) return;
@@ -80,7 +80,7 @@ void player::payRent() {
 }
 
 player* player::isInDebtTo() {
-    const PropertyCell* prop = cellUnder()->asProperty();
+    const PropertyCell* prop = propertyUnder();
     if (prop == nullptr) return nullptr;
     player* owner = prop->getProp().getOwners();
     return owner != this ? owner : nullptr;
@@ -89,10 +89,11 @@ player* player::isInDebtTo() {
 void player::declareBankruptcy() {
     player* creditor = isInDebtTo();
     MainWindowPort& main = windows().main;
-    for (Integer i = 0; i < kCellCount; ++i) {
-        BoardCell& c = *board_.getCell(i);
-        PropertyCell* prop = c.asProperty();
-        if (prop == nullptr || prop->getProp().getOwners() != this) continue;
+    // The cells held when the bankruptcy began; handing them on changes what is held.
+    for (const Integer i : held_.inBoardOrder()) {
+        PropertyCell* prop = board_.propertyAt(i);
+        if (prop->getProp().getOwners() != this) continue;
+        BoardCell& c = *prop;
         if (creditor != nullptr) {
             // Passed on as it stands: mortgaged or not, with all its hotels.
             creditor->newlyOwn(c);
@@ -104,7 +105,7 @@ void player::declareBankruptcy() {
             prop->getProp().Unmortgage();
             main.showMort(i);
             prop->getProp().setOwner(nullptr);
-            if (Street* s = c.asStreet()) {
+            if (Street* s = board_.streetAt(i)) {
                 while (s->getHotelCount() >= 1) s->destroyHotel();
                 main.showHotel(i);
             }

@@ -27,11 +27,10 @@ bool player::canBuy(Integer cellId) {
 }
 
 void player::buyProperty() {
-    BoardCell* c = cellUnder();
-    PropertyCell* prop = c->asProperty();
+    PropertyCell* prop = propertyUnder();
     if (prop == nullptr) return;  // only a buyable cell can be bought
     debit(prop->getProp().getPrice());
-    newlyOwn(*c);
+    newlyOwn(*prop);
 }
 
 void player::setStreetEntry(const BoardCell& c, bool owned) {
@@ -41,25 +40,49 @@ void player::setStreetEntry(const BoardCell& c, bool owned) {
     const int column = columnOf(s);
     if (row < 0 || row > 7 || column < 0 || column > 2) return;
     ownedStreets_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = owned;
+    updateDistrict(static_cast<std::size_t>(row));
+}
+
+// The masks read the table as autoBuild and autoTrade read it: a two-street district is
+// whole with its two, and the street to ask for is the last column that reads false, which
+// for a two-street district whose third column is not yet marked is no street at all.
+void player::updateDistrict(std::size_t row) {
+    const auto& owned = ownedStreets_[row];
+    const bool twoStreets = row == 0 || row == ownedStreets_.size() - 1;
+    const int held = owned[0] + owned[1] + (twoStreets ? 0 : owned[2]);
+    const bool whole = owned[0] && owned[1] && (twoStreets || owned[2]);
+    const bool oneShort = twoStreets ? held == 1 && owned[2] : held == 2;
+    const auto bit = static_cast<std::uint8_t>(1U << row);
+    wholeDistricts_ =
+        static_cast<std::uint8_t>(whole ? wholeDistricts_ | bit : wholeDistricts_ & ~bit);
+    districtsOneShort_ =
+        static_cast<std::uint8_t>(oneShort ? districtsOneShort_ | bit : districtsOneShort_ & ~bit);
 }
 
 void player::newlyOwn(BoardCell& pProp) {
     PropertyCell* prop = pProp.asProperty();
     if (prop == nullptr) return;
     prop->getProp().setOwner(this);
-    heldCells_ |= std::uint64_t{1} << prop->Cell_getId();
+    held_.add(prop->Cell_getId());
     windows().main.showOwner(prop->getProp().getCell().getId());
     setStreetEntry(pProp, true);
 }
 
 void player::noMoreOwn(BoardCell& pProp) {
-    if (pProp.isProperty()) heldCells_ &= ~(std::uint64_t{1} << pProp.Cell_getId());
+    if (pProp.isProperty()) held_.remove(pProp.Cell_getId());
     setStreetEntry(pProp, false);
 }
 
-bool player::ownDist(Integer iDist) {
+void player::markTwoStreetDistricts() {
+    if (ownedStreets_[0][2] && ownedStreets_[7][2]) return;
     ownedStreets_[0][2] = true;
     ownedStreets_[7][2] = true;
+    updateDistrict(0);
+    updateDistrict(7);
+}
+
+bool player::ownDist(Integer iDist) {
+    markTwoStreetDistricts();
     if (iDist < 0 || iDist > 7) return false;
     const auto& row = ownedStreets_[static_cast<std::size_t>(iDist)];
     return row[0] && row[1] && row[2];
