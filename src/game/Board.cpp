@@ -4,6 +4,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "game/Scatter.h"
 #include "windows/Windows.h"
@@ -117,7 +118,7 @@ void Board::rollDice() {
         p.resetDoubleCount();
     } else {
         p.incDoubleCount();
-        main.showInfo(p.getName() + ", you have rolled doubles, go again!");
+        say(p.getName(), ", you have rolled doubles, go again!");
     }
     if (p.getDoubleCount() == 3) {
         main.showInfo(p.getName() + ", you have rolled three doubles, go to jail!");
@@ -135,6 +136,11 @@ void Board::rollDice() {
     }
     main.Showdice(dice1_.getValue(), dice2_.getValue());
     if (!p.IsInJail()) p.move(static_cast<Integer>(a + b), false);
+}
+
+void Board::say(std::string_view who, std::string_view what) {
+    message_.assign(who).append(what);
+    windows_.main.showInfo(message_);
 }
 
 void Board::endTurn() {

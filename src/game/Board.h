@@ -7,6 +7,8 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <string>
+#include <string_view>
 
 // game and the rule folders include each other: the board owns its deck, cells and
 // players, and they reach back only through game's leaf headers and a Board&.
@@ -96,6 +98,9 @@ private:
     static bool onRing(Integer pos) { return pos >= 0 && pos < kCellCount; }
     void playOneTurn();
     void buildCells();
+    // Puts "who" followed by "what" on the message line, written into one buffer that keeps
+    // its room from throw to throw.
+    void say(std::string_view who, std::string_view what);
 
     Integer currPlayer_ = 0;
     Integer numPlayer_ = 0;
@@ -116,6 +121,7 @@ private:
     bool turnRunning_ = false;
     bool turnPending_ = false;
     std::function<bool()> onTurnPlayed_;
+    std::string message_;
 };
 
 }  // namespace gw

@@ -92,8 +92,11 @@ void CellInfoWindow::demandRent(bool human) {
     player& p = *cardPlayer_;
     payRent_.show();
     payTo_.show();
-    // The card of a landing carries no owner's name: the payee is said here.
-    if (ownerWhenShown_ != nullptr) payTo_.caption = "Rent goes to " + ownerWhenShown_->getName();
+    // The card of a landing carries no owner's name: the payee is said here, written into
+    // the caption's own room, which a computer's rents reuse thousands of times a second.
+    if (ownerWhenShown_ != nullptr) {
+        payTo_.caption.assign("Rent goes to ").append(ownerWhenShown_->getName());
+    }
     const Integer shortfall = p.canPayRent(cardId_);
     if (shortfall != 0) {
         windows_.main.showInfo("You cannot pay the rent, you must get $" +
