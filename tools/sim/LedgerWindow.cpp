@@ -113,14 +113,19 @@ void LedgerWindow::MoveToken(Integer id, Integer from, Integer to) {
     events_.push_back(e);
 }
 
+int LedgerWindow::ownerSlot(Integer cellId) const {
+    const player* owner = board_->propertyAt(cellId)->getProp().getOwners();
+    return owner != nullptr ? owner->getId() : -1;
+}
+
+// The cell as it stands and as it was shown last: read before the shown tables move on.
 Event LedgerWindow::mark(Event::Kind kind, Integer cellId) const {
     Event e;
     e.kind = kind;
     e.current = board_->getCurrPlayerIndex();
     e.cell = cellId;
-    const PropertyCell& prop = *board_->getCell(cellId)->asProperty();
-    const player* owner = prop.getProp().getOwners();
-    e.owner = owner != nullptr ? owner->getId() : -1;
+    const PropertyCell& prop = *board_->propertyAt(cellId);
+    e.owner = ownerSlot(cellId);
     e.mortgaged = prop.getProp().isMortgaged2();
     e.hotels = prop.getHotelCount();
     const auto at = static_cast<std::size_t>(cellId);
@@ -134,28 +139,31 @@ Event LedgerWindow::mark(Event::Kind kind, Integer cellId) const {
 // one taken from the bank is a purchase, one given away a bankruptcy.
 void LedgerWindow::showOwner(Integer cellId) {
     if (board_ == nullptr) return;
-    const Event e = mark(Kind::Owner, cellId);
-    if (e.owner == e.current && e.shownOwner >= 0) {
+    const int owner = ownerSlot(cellId);
+    const int current = board_->getCurrPlayerIndex();
+    const int shown = shownOwner_[static_cast<std::size_t>(cellId)];
+    if (owner == current && shown >= 0) {
         ++trades_;
-        if (e.shownOwner == e.current) ++selfTrades_;
+        if (shown == current) ++selfTrades_;
     }
-    shownOwner_[static_cast<std::size_t>(cellId)] = e.owner;
-    if (record_) events_.push_back(e);
+    if (record_) events_.push_back(mark(Kind::Owner, cellId));
+    shownOwner_[static_cast<std::size_t>(cellId)] = owner;
 }
 
 void LedgerWindow::showHotel(Integer cellId) {
     if (board_ == nullptr) return;
-    const Event e = mark(Kind::Hotel, cellId);
-    if (e.hotels > e.shownHotels) hotelsBuilt_ += e.hotels - e.shownHotels;
-    shownHotels_[static_cast<std::size_t>(cellId)] = e.hotels;
-    if (record_) events_.push_back(e);
+    const Integer hotels = board_->propertyAt(cellId)->getHotelCount();
+    const Integer shown = shownHotels_[static_cast<std::size_t>(cellId)];
+    if (hotels > shown) hotelsBuilt_ += hotels - shown;
+    if (record_) events_.push_back(mark(Kind::Hotel, cellId));
+    shownHotels_[static_cast<std::size_t>(cellId)] = hotels;
 }
 
 void LedgerWindow::showMort(Integer cellId) {
     if (board_ == nullptr) return;
-    const Event e = mark(Kind::Mort, cellId);
-    shownMortgaged_[static_cast<std::size_t>(cellId)] = e.mortgaged;
-    if (record_) events_.push_back(e);
+    if (record_) events_.push_back(mark(Kind::Mort, cellId));
+    shownMortgaged_[static_cast<std::size_t>(cellId)] =
+        board_->propertyAt(cellId)->getProp().isMortgaged2();
 }
 
 void LedgerWindow::showBankRupt() {

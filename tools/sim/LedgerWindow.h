@@ -97,6 +97,8 @@ public:
     void showGameEnd() override { ++gameEnds_; }
 
 private:
+    // The slot of the cell's owner, -1 for the bank.
+    int ownerSlot(Integer cellId) const;
     Event mark(Event::Kind kind, Integer cellId) const;
     void describeStand(Event& e) const;
     long long worthOf(const player& p) const;
