@@ -115,13 +115,16 @@ void player::autoBuild() {
         }
         return;
     }
-    // Only the streets of one's whole districts can take a hotel, and building changes no
-    // owner: they are looked up once, from the end of the board down. The first canBuild
-    // marks the two-street districts as a call on any street of one's own would.
+    // What canBuild on the first street of one's own would mark before anything else.
+    markTwoStreetDistricts();
+    // A hotel goes only on a street of a whole district, unmortgaged and with fewer than
+    // four; building changes none of that for the streets it passes over, so they are
+    // picked once, from the end of the board down, and canBuild asks the rest each time.
     CellList streets;
     for (const Integer i : held_.fromTheEnd()) {
         const Street* s = board_.streetAt(i);
-        if (s != nullptr && wholeDistrict(static_cast<std::size_t>(s->district() - 1))) {
+        if (s != nullptr && wholeDistrict(static_cast<std::size_t>(s->district() - 1)) &&
+            s->getHotelCount() < kMaxHotels && !s->getProp().isMortgaged2()) {
             streets.add(i);
         }
     }
