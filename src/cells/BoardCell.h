@@ -3,6 +3,8 @@
 // landing. Kinds are told apart by `kind()`; the as... casts give the concrete class.
 #pragma once
 
+#include <cstddef>
+
 #include "cells/cell.h"
 
 namespace gw {
@@ -24,6 +26,8 @@ enum class CellKind : std::uint8_t {
     Metro,
     Utility,
 };
+
+constexpr std::size_t kCellKindCount = 10;
 
 class BoardCell {
 public:

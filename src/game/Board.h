@@ -46,6 +46,8 @@ public:
     Street* streetAt(Integer pos) const {
         return onRing(pos) ? streets_[static_cast<std::size_t>(pos)] : nullptr;
     }
+    // The cells of one kind, to meet a player's holdings.
+    CellSet cellsOfKind(CellKind kind) const { return kinds_[static_cast<std::size_t>(kind)]; }
     // The street of a district, by row (district 1 is row 0) and column (its first street
     // is column 0); null for the third column of the two-street districts.
     Street* streetInDistrict(int row, int column) const {
@@ -112,6 +114,7 @@ private:
     std::array<PropertyCell*, kCellCount> properties_{};
     std::array<Street*, kCellCount> streets_{};
     std::array<std::array<Street*, 3>, 8> districts_{};
+    std::array<CellSet, kCellKindCount> kinds_{};
     Windows& windows_;
     std::unique_ptr<Random> random_;
     JFLDeck jflDeck_;

@@ -97,7 +97,9 @@ void Board::init() {
 }
 
 void Board::buildCells() {
+    kinds_ = {};
     for (std::size_t i = 0; i < kRing.size(); ++i) {
+        kinds_[static_cast<std::size_t>(kRing[i].kind)].add(static_cast<Integer>(i));
         cells_[i] = makeCell(kRing[i], cell(static_cast<Integer>(i), kRing[i].name, *this));
         properties_[i] = cells_[i]->asProperty();
         streets_[i] = cells_[i]->asStreet();

@@ -30,6 +30,11 @@ public:
     bool empty() const { return bits_ == 0; }
     void add(Integer cellId) { bits_ |= std::uint64_t{1} << cellId; }
     void remove(Integer cellId) { bits_ &= ~(std::uint64_t{1} << cellId); }
+    // The cells in both sets.
+    CellSet operator&(CellSet other) const {
+        other.bits_ &= bits_;
+        return other;
+    }
 
     // From Go onwards.
     CellList inBoardOrder() const {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How a computer raises cash: utilities, then metro stations, then bare streets are
 // mortgaged, then hotels sold; if all that is not enough, bankruptcy.
-#include <array>
-
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
 #include "game/Board.h"
@@ -11,38 +9,25 @@
 namespace gw {
 
 void player::autoMakeMoney(Integer amount) {
-    constexpr int kBankruptcyStage = 4;
     if (balance_ >= amount) return;
-    // Every step below needs a cell of the player's own, and none changes hands here:
-    // they are looked up once, in the order of the board.
-    const CellList own = held_.inBoardOrder();
-    for (int stage = 0; balance_ < amount; ++stage) {
-        if (stage == kBankruptcyStage) {
-            declareBankruptcy();
-            return;
-        }
-        for (const Integer i : own) {
-            if (balance_ >= amount) break;
-            const CellKind kind = board_.propertyAt(i)->kind();
-            switch (stage) {
-                case 0:
-                    if (kind == CellKind::Utility && canMort(i)) mortgageProp(i);
-                    break;
-                case 1:
-                    if (kind == CellKind::Metro && canMort(i)) mortgageProp(i);
-                    break;
-                case 2:
-                    if (kind == CellKind::Street && canMort(i)) mortgageProp(i);
-                    break;
-                default:
-                    if (kind != CellKind::Street) break;
-                    while (canSellHotel(i) && balance_ < amount) sellHotel(i);
-                    // A stripped street is mortgaged only while the player is in debt.
-                    if (canMort(i) && balance_ < 0) mortgageProp(i);
-                    break;
-            }
+    // Nothing changes hands here: each kind's cells of the player's own are listed once,
+    // in the order of the board.
+    auto ownCells = [this](CellKind kind) {
+        return (held_ & board_.cellsOfKind(kind)).inBoardOrder();
+    };
+    for (const CellKind kind : {CellKind::Utility, CellKind::Metro, CellKind::Street}) {
+        for (const Integer i : ownCells(kind)) {
+            if (balance_ >= amount) return;
+            if (canMort(i)) mortgageProp(i);
         }
     }
+    for (const Integer i : ownCells(CellKind::Street)) {
+        if (balance_ >= amount) return;
+        while (canSellHotel(i) && balance_ < amount) sellHotel(i);
+        // A stripped street is mortgaged only while the player is in debt.
+        if (canMort(i) && balance_ < 0) mortgageProp(i);
+    }
+    if (balance_ < amount) declareBankruptcy();
 }
 
 }  // namespace gw
