@@ -27,7 +27,6 @@ struct CellList {
 class CellSet {
 public:
     bool has(Integer cellId) const { return ((bits_ >> cellId) & 1U) != 0; }
-    bool empty() const { return bits_ == 0; }
     void add(Integer cellId) { bits_ |= std::uint64_t{1} << cellId; }
     void remove(Integer cellId) { bits_ &= ~(std::uint64_t{1} << cellId); }
     // The cells in both sets.
