@@ -3,7 +3,6 @@
 
 #include "cards/JFLDeck.h"
 #include "game/Board.h"
-#include "windows/JFLCardWindow.h"
 #include "windows/Windows.h"
 
 namespace gw {
@@ -11,7 +10,7 @@ namespace gw {
 void JFL::doAction(player& p) {
     Board& board = getCell().getBoard();
     JFLCard& card = board.getJFLDeck().getCard();
-    JFLCardWindow& window = board.windows().jflCard;
+    JFLCardPort& window = board.windows().cards.jflCard;
     window.showJFLCard(card.getDescription());
     window.computerThink();
     card.doAction(p);

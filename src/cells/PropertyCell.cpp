@@ -3,7 +3,6 @@
 
 #include "game/Board.h"
 #include "players/player.h"
-#include "windows/CellInfoWindow.h"
 #include "windows/Windows.h"
 
 namespace gw {
@@ -40,7 +39,7 @@ void PropertyCell::showInfo(player& p, Integer& opt) {
             }
         }
     }
-    getCell().getBoard().windows().cellInfo.showInfoCard(Cell_getId(), groupNumber(), values.span(),
+    getCell().getBoard().windows().cards.cellInfo.showInfoCard(Cell_getId(), groupNumber(), values.span(),
                                                          opt, p, Cell_getName(), ownerName);
 }
 

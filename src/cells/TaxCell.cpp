@@ -3,12 +3,11 @@
 
 #include "game/Board.h"
 #include "windows/Windows.h"
-#include "windows/taxCellWindow.h"
 
 namespace gw {
 
 void TaxCell::showInfo(player& p, Integer opt) {
-    getCell().getBoard().windows().taxCard.showTaxCard(Cell_getId(), p, rent_, opt);
+    getCell().getBoard().windows().cards.taxCard.showTaxCard(Cell_getId(), p, rent_, opt);
 }
 
 void TaxCell::doAction(player& p) {

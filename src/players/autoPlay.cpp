@@ -7,9 +7,7 @@
 #include "cells/Street.h"
 #include "game/Board.h"
 #include "players/player.h"
-#include "windows/CellInfoWindow.h"
 #include "windows/Windows.h"
-#include "windows/taxCellWindow.h"
 
 namespace gw {
 namespace {
@@ -81,7 +79,7 @@ void player::autoReleaseAndAct() {
 void player::autoSettleTradeRaiseBuild() {
     BoardCell* c = cellUnder();  // afresh: a card or the police may have moved the token
     if (PropertyCell* prop = c->asProperty()) {
-        windows().cellInfo.computerThink();
+        windows().cards.cellInfo.computerThink();
         const player* owner = prop->getProp().getOwners();
         if (owner == nullptr) {
             if (canBuy(position_)) {
@@ -93,7 +91,7 @@ void player::autoSettleTradeRaiseBuild() {
             payRent();
         }
     } else if (c->isTax()) {
-        windows().taxCard.computerThink();
+        windows().cards.taxCard.computerThink();
         playSound(SoundEffect::Pay);
         payRent();
     }

@@ -7,8 +7,6 @@
 #include "cells/Street.h"
 #include "game/Board.h"
 #include "players/player.h"
-#include "windows/CellInfoWindow.h"
-#include "windows/TradingCardWindow.h"
 #include "windows/Windows.h"
 
 namespace gw {
@@ -30,7 +28,7 @@ void player::autoTrade() {
         }
     }
 
-    Windows& ui = windows();
+    CardPorts& ui = windows().cards;
     for (const Integer distId : wanted) {
         if (distId == 0) continue;
         Street* target = nullptr;

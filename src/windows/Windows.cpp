@@ -22,6 +22,7 @@ Windows::Windows(MainWindowPort& mainWindow, Sound& soundPlayer, Delay& delayTim
       main(mainWindow),
       sound(soundPlayer),
       delay(delayTime),
+      cards{cards_->cellInfo, cards_->trading, cards_->jflCard, cards_->taxCard},
       cellInfo(cards_->cellInfo),
       trading(cards_->trading),
       jflCard(cards_->jflCard),

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The windows that the rules talk to, gathered for one game: the main window (behind
-// its port), the sound, the delays, and the four card windows, which are plain models.
-// The cards are only declared here: a file that opens one includes that card's header,
+// its port), the sound, the delays, and the four cards behind theirs. The cards' models
+// are only declared here: a view or a test that clicks one includes that card's header,
 // so that an edit to one card rebuilds only the files that use it.
 #pragma once
 
 #include <functional>
 #include <memory>
 
+#include "windows/CardPorts.h"
 #include "windows/Delay.h"
 #include "windows/MainWindowPort.h"
 #include "windows/Sound.h"
@@ -38,6 +39,9 @@ public:
     MainWindowPort& main;
     Sound& sound;
     Delay& delay;
+    // What the rules may ask of the cards.
+    CardPorts cards;
+    // The cards' models, for their views and for clicks.
     CellInfoWindow& cellInfo;
     TradingCardWindow& trading;
     JFLCardWindow& jflCard;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "game/Integer.h"
+#include "windows/CardPorts.h"
 #include "windows/Control.h"
 #include "windows/WindowCodes.h"
 
@@ -14,12 +15,12 @@ namespace gw {
 class Windows;
 class player;
 
-class taxCellWindow : public WindowModel {
+class taxCellWindow final : public WindowModel, public TaxCardPort {
 public:
     explicit taxCellWindow(Windows& windows) : windows_(windows) {}
 
-    void showTaxCard(Integer iId, player& p, Integer amount, Integer opt);
-    bool computerThink();
+    void showTaxCard(Integer iId, player& p, Integer amount, Integer opt) override;
+    bool computerThink() override;
     void payRent_Click();
 
     // Every control by its name, as a view binds them.
