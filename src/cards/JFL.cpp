@@ -2,8 +2,8 @@
 #include "cards/JFL.h"
 
 #include "cards/JFLDeck.h"
-#include "game/Board.h"
-#include "windows/Windows.h"
+#include "game/Board.h"  // the board holding the deck, which holds it in turn
+#include "ports/Ports.h"
 
 namespace gw {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cells/TaxCell.h"
 
-#include "game/Board.h"
-#include "windows/Windows.h"
+#include "game/Board.h"  // the board holding this cell, which holds it in turn
+#include "ports/Ports.h"
 
 namespace gw {
 

@@ -5,7 +5,7 @@
 
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
-#include "game/Board.h"
+#include "game/Board.h"  // the board seating this player, which holds it in turn
 #include "players/player.h"
 
 namespace gw {

@@ -9,14 +9,14 @@
 #include <cstdint>
 #include <string>
 
-#include "game/Integer.h"
-#include "windows/Sound.h"
+#include "base/Integer.h"
+#include "ports/Sound.h"
 
 namespace gw {
 
 class Board;
 class BoardCell;
-class Windows;
+struct Ports;
 
 constexpr Integer kStartingBalance = 1500;
 constexpr Integer kGoMoney = 200;
@@ -113,7 +113,7 @@ public:
     void autoTrade();
 
 private:
-    Windows& windows() const;
+    Ports& windows() const;
     BoardCell* cellUnder() const;
     // The tax due on a tax cell, with the lesser-of rule of income tax.
     Integer taxDue(const BoardCell& taxCell);

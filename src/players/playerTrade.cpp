@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Sales of one cell between two players, for money.
 #include "cells/PropertyCell.h"
-#include "game/Board.h"
+#include "game/Board.h"  // the board seating this player, which holds it in turn
 #include "players/player.h"
-#include "windows/Windows.h"
+#include "ports/Ports.h"
 
 namespace gw {
 

@@ -11,7 +11,7 @@
 #include <functional>
 #include <memory>
 
-#include "windows/WindowCodes.h"
+#include "ports/WindowCodes.h"
 
 class QPainter;
 

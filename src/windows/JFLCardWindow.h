@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "windows/CardPorts.h"
+#include "ports/CardPorts.h"
 #include "windows/Control.h"
 
 namespace gw {

@@ -9,10 +9,10 @@
 #include <functional>
 #include <string>
 
-#include "game/Integer.h"
+#include "base/Integer.h"
+#include "ports/MainWindowPort.h"
 #include "windows/CellFaces.h"
 #include "windows/Control.h"
-#include "windows/MainWindowPort.h"
 
 namespace gw {
 

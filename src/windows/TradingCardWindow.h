@@ -7,10 +7,10 @@
 #include <optional>
 #include <string>
 
-#include "game/Integer.h"
-#include "windows/CardPorts.h"
+#include "base/Integer.h"
+#include "ports/CardPorts.h"
+#include "ports/WindowCodes.h"
 #include "windows/Control.h"
-#include "windows/WindowCodes.h"
 
 namespace gw {
 

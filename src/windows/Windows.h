@@ -8,10 +8,7 @@
 #include <functional>
 #include <memory>
 
-#include "windows/CardPorts.h"
-#include "windows/Delay.h"
-#include "windows/MainWindowPort.h"
-#include "windows/Sound.h"
+#include "ports/Ports.h"
 
 namespace gw {
 
@@ -19,12 +16,20 @@ class CellInfoWindow;
 class TradingCardWindow;
 class JFLCardWindow;
 class taxCellWindow;
+class Windows;
 
-class Windows {
+// Holds the four cards' models; a base of Windows ahead of its ports, so that the cards
+// exist before the ports are bound to them.
+class CardModels {
+protected:
+    explicit CardModels(Windows& windows);
+    ~CardModels();
     struct Cards;
-    // First, so that the cards exist before the references to them are bound.
     std::unique_ptr<Cards> cards_;
+};
 
+// The ports the rules see, and behind them the cards' models for views, tests and clicks.
+class Windows : private CardModels, public Ports {
 public:
     Windows(MainWindowPort& mainWindow, Sound& soundPlayer, Delay& delayTime);
     ~Windows();
@@ -36,12 +41,6 @@ public:
     // One hook for the four cards; see GameRun::setOnChanged.
     void setOnChanged(const std::function<void()>& hook);
 
-    MainWindowPort& main;
-    Sound& sound;
-    Delay& delay;
-    // What the rules may ask of the cards.
-    CardPorts cards;
-    // The cards' models, for their views and for clicks.
     CellInfoWindow& cellInfo;
     TradingCardWindow& trading;
     JFLCardWindow& jflCard;

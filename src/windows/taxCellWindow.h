@@ -5,10 +5,10 @@
 
 #include <string>
 
-#include "game/Integer.h"
-#include "windows/CardPorts.h"
+#include "base/Integer.h"
+#include "ports/CardPorts.h"
+#include "ports/WindowCodes.h"
 #include "windows/Control.h"
-#include "windows/WindowCodes.h"
 
 namespace gw {
 

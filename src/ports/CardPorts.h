@@ -8,7 +8,7 @@
 #include <span>
 #include <string>
 
-#include "game/Integer.h"
+#include "base/Integer.h"
 
 namespace gw {
 
