@@ -10,7 +10,7 @@ target_link_libraries(gildenway-soundgen PRIVATE gildenway_options)
 
 # The file names are spelt once, in Sound.h; read them from there so the build's list of
 # outputs cannot drift from the names the game plays.
-set(SOUND_HEADER ${CMAKE_SOURCE_DIR}/src/windows/Sound.h)
+set(SOUND_HEADER ${CMAKE_SOURCE_DIR}/src/ports/Sound.h)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${SOUND_HEADER})
 file(READ ${SOUND_HEADER} SOUND_HEADER_TEXT)
 string(REGEX MATCH "kSoundFiles = {[^}]*}" SOUND_FILE_TABLE "${SOUND_HEADER_TEXT}")

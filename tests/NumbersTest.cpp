@@ -4,8 +4,8 @@
 
 #include <array>
 
+#include "base/Integer.h"
 #include "game/Dice.h"
-#include "game/Integer.h"
 #include "game/Random.h"
 
 namespace gw::test {

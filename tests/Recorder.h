@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "windows/Delay.h"
+#include "ports/Delay.h"
+#include "ports/MainWindowPort.h"
+#include "ports/Sound.h"
 #include "windows/MainWindow.h"
-#include "windows/MainWindowPort.h"
-#include "windows/Sound.h"
 
 namespace gw::test {
 

@@ -9,15 +9,13 @@
 #include <utility>
 
 #include "app/QtDelay.h"
-#include "windows/CellFaces.h"
 #include "windows/GameRun.h"
 
 namespace gw::app {
 
 Program::Program(GameRun& run, QtDelay* delay) : run_(run), dispatch_(run) {
     Windows& w = run.windows();
-    main_ = std::make_unique<view::MainWindowView>(dispatch_, run.mainWindow(),
-                                                   view::cellPrints(CellFaces(run.board())));
+    main_ = std::make_unique<view::MainWindowView>(dispatch_, run.mainWindow());
     start_ = std::make_unique<view::GameStartView>(dispatch_, run.gameStart());
     cellInfo_ = std::make_unique<view::CellInfoView>(dispatch_, w.cellInfo);
     trading_ = std::make_unique<view::TradingCardView>(dispatch_, w.trading);

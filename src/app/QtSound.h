@@ -10,7 +10,7 @@
 #include <array>
 #include <memory>
 
-#include "windows/Sound.h"
+#include "ports/Sound.h"
 
 class QSoundEffect;
 

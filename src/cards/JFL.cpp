@@ -2,16 +2,15 @@
 #include "cards/JFL.h"
 
 #include "cards/JFLDeck.h"
-#include "game/Board.h"
-#include "windows/JFLCardWindow.h"
-#include "windows/Windows.h"
+#include "game/Board.h"  // the board holding the deck, which holds it in turn
+#include "ports/Ports.h"
 
 namespace gw {
 
 void JFL::doAction(player& p) {
     Board& board = getCell().getBoard();
     JFLCard& card = board.getJFLDeck().getCard();
-    JFLCardWindow& window = board.windows().jflCard;
+    JFLCardPort& window = board.windows().cards.jflCard;
     window.showJFLCard(card.getDescription());
     window.computerThink();
     card.doAction(p);

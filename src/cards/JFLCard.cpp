@@ -5,8 +5,8 @@
 
 #include "cards/JFLDeck.h"
 #include "cells/BoardCell.h"
-#include "game/Board.h"
-#include "players/player.h"
+#include "game/Board.h"      // the board holding the deck, which holds it in turn
+#include "players/player.h"  // a card acts on players, who may keep one in turn
 
 namespace gw {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "game/Integer.h"
+#include "base/Integer.h"
 
 namespace gw {
 

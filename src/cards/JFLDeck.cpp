@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "game/Board.h"
+#include "game/Board.h"  // the board holding the deck, which holds it in turn
 #include "game/Scatter.h"
 
 namespace gw {

@@ -4,9 +4,9 @@
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
 #include "cells/TaxCell.h"
-#include "game/Board.h"
-#include "players/player.h"
-#include "windows/Windows.h"
+#include "game/Board.h"      // the board holding this cell, which holds it in turn
+#include "players/player.h"  // a cell charges players, who hold cells in turn
+#include "ports/Ports.h"
 
 namespace gw {
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cells/PropertyCell.h"
 
-#include "game/Board.h"
-#include "players/player.h"
-#include "windows/CellInfoWindow.h"
-#include "windows/Windows.h"
+#include "game/Board.h"      // the board holding this cell, which holds it in turn
+#include "players/player.h"  // a cell charges players, who hold cells in turn
+#include "ports/Ports.h"
 
 namespace gw {
 
@@ -40,8 +39,8 @@ void PropertyCell::showInfo(player& p, Integer& opt) {
             }
         }
     }
-    getCell().getBoard().windows().cellInfo.showInfoCard(Cell_getId(), groupNumber(), values.span(),
-                                                         opt, p, Cell_getName(), ownerName);
+    getCell().getBoard().windows().cards.cellInfo.showInfoCard(
+        Cell_getId(), groupNumber(), values.span(), opt, p, Cell_getName(), ownerName);
 }
 
 CardValues PropertyCell::cardValues() const {

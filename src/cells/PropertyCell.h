@@ -8,7 +8,7 @@
 
 #include "cells/BoardCell.h"
 #include "cells/Property.h"
-#include "windows/WindowCodes.h"
+#include "ports/WindowCodes.h"
 
 namespace gw {
 

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cells/TaxCell.h"
 
-#include "game/Board.h"
-#include "windows/Windows.h"
-#include "windows/taxCellWindow.h"
+#include "game/Board.h"  // the board holding this cell, which holds it in turn
+#include "ports/Ports.h"
 
 namespace gw {
 
 void TaxCell::showInfo(player& p, Integer opt) {
-    getCell().getBoard().windows().taxCard.showTaxCard(Cell_getId(), p, rent_, opt);
+    getCell().getBoard().windows().cards.taxCard.showTaxCard(Cell_getId(), p, rent_, opt);
 }
 
 void TaxCell::doAction(player& p) {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cells/cell.h"
 
-#include "game/Board.h"
-#include "players/player.h"
-#include "windows/Windows.h"
+#include "game/Board.h"      // the board holding this cell, which holds it in turn
+#include "players/player.h"  // a cell charges players, who hold cells in turn
+#include "ports/Ports.h"
 
 namespace gw {
 

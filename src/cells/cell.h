@@ -5,8 +5,8 @@
 
 #include <string>
 
-#include "game/Integer.h"
-#include "windows/MainWindowPort.h"
+#include "base/Integer.h"
+#include "ports/MainWindowPort.h"
 
 namespace gw {
 

@@ -7,11 +7,11 @@
 #include <string_view>
 
 #include "game/Scatter.h"
-#include "windows/Windows.h"
+#include "ports/Ports.h"
 
 namespace gw {
 
-Board::Board(Windows& windows, std::unique_ptr<Random> random)
+Board::Board(Ports& windows, std::unique_ptr<Random> random)
     : windows_(windows),
       random_(std::move(random)),
       jflDeck_(*this),

@@ -12,22 +12,22 @@
 
 // game and the rule folders include each other: the board owns its deck, cells and
 // players, and they reach back only through game's leaf headers and a Board&.
+#include "base/Integer.h"
+#include "base/Limits.h"
 #include "cards/JFLDeck.h"
 #include "cells/BoardCell.h"
 #include "game/Dice.h"
 #include "game/GameSetup.h"
-#include "game/Integer.h"
-#include "game/Limits.h"
 #include "game/Random.h"
 #include "players/player.h"
 
 namespace gw {
 
-class Windows;
+struct Ports;
 
 class Board {
 public:
-    Board(Windows& windows, std::unique_ptr<Random> random);
+    Board(Ports& ports, std::unique_ptr<Random> random);
     ~Board();
     Board(const Board&) = delete;
     Board& operator=(const Board&) = delete;
@@ -84,7 +84,7 @@ public:
 
     // One reseeded draw from the game's random source.
     double draw() { return random_->draw(); }
-    Windows& windows() const { return windows_; }
+    Ports& windows() const { return windows_; }
     const Dice& dice1() const { return dice1_; }
     const Dice& dice2() const { return dice2_; }
 
@@ -115,7 +115,7 @@ private:
     std::array<Street*, kCellCount> streets_{};
     std::array<std::array<Street*, 3>, 8> districts_{};
     std::array<CellSet, kCellKindCount> kinds_{};
-    Windows& windows_;
+    Ports& windows_;
     std::unique_ptr<Random> random_;
     JFLDeck jflDeck_;
     Dice dice1_;

@@ -3,7 +3,7 @@
 // and taken modulo 6, so faces 2 to 5 are a little likelier than 1 and 6.
 #pragma once
 
-#include "game/Integer.h"
+#include "base/Integer.h"
 
 namespace gw {
 

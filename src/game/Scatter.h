@@ -4,7 +4,7 @@
 
 #include <span>
 
-#include "game/Integer.h"
+#include "base/Integer.h"
 
 namespace gw {
 

@@ -9,8 +9,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "game/Integer.h"
-#include "game/Limits.h"
+#include "base/Integer.h"
+#include "base/Limits.h"
 
 namespace gw {
 

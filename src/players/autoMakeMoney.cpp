@@ -3,7 +3,7 @@
 // mortgaged, then hotels sold; if all that is not enough, bankruptcy.
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
-#include "game/Board.h"
+#include "game/Board.h"  // the board seating this player, which holds it in turn
 #include "players/player.h"
 
 namespace gw {

@@ -3,11 +3,9 @@
 // here is random and nothing here waits: the pacing lies in the cards' computerThink.
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
-#include "game/Board.h"
+#include "game/Board.h"  // the board seating this player, which holds it in turn
 #include "players/player.h"
-#include "windows/CellInfoWindow.h"
-#include "windows/Windows.h"
-#include "windows/taxCellWindow.h"
+#include "ports/Ports.h"
 
 namespace gw {
 namespace {
@@ -70,7 +68,7 @@ void player::autoReleaseAndAct() {
 void player::autoSettleTradeRaiseBuild() {
     // Afresh: a card or the police may have moved the token.
     if (PropertyCell* prop = propertyUnder()) {
-        windows().cellInfo.computerThink();
+        windows().cards.cellInfo.computerThink();
         const player* owner = prop->getProp().getOwners();
         if (owner == nullptr) {
             if (canBuy(position_)) {
@@ -82,7 +80,7 @@ void player::autoSettleTradeRaiseBuild() {
             payRent();
         }
     } else if (cellUnder()->isTax()) {
-        windows().taxCard.computerThink();
+        windows().cards.taxCard.computerThink();
         playSound(SoundEffect::Pay);
         payRent();
     }

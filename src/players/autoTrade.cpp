@@ -6,11 +6,9 @@
 #include <string>
 
 #include "cells/Street.h"
-#include "game/Board.h"
+#include "game/Board.h"  // the board seating this player, which holds it in turn
 #include "players/player.h"
-#include "windows/CellInfoWindow.h"
-#include "windows/TradingCardWindow.h"
-#include "windows/Windows.h"
+#include "ports/Ports.h"
 
 namespace gw {
 
@@ -18,7 +16,7 @@ void player::autoTrade() {
     // The districts one street short, as they stood before any offer of this turn.
     const std::uint8_t oneShort = districtsOneShort_;
     if (oneShort == 0) return;
-    Windows& ui = windows();
+    CardPorts& ui = windows().cards;
     for (std::size_t r = 0; r < ownedStreets_.size(); ++r) {
         if (((oneShort >> r) & 1U) == 0) continue;
         const auto& row = ownedStreets_[r];

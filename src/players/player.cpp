@@ -2,10 +2,10 @@
 // Identity, movement, money and jail.
 #include "players/player.h"
 
-#include "cards/JFLDeck.h"
+#include "cards/JFLDeck.h"  // a kept card goes back to the deck, whose cards act on players
 #include "cells/BoardCell.h"
-#include "game/Board.h"
-#include "windows/Windows.h"
+#include "game/Board.h"  // the board seating this player, which holds it in turn
+#include "ports/Ports.h"
 
 namespace gw {
 
@@ -16,7 +16,7 @@ player::player(Integer iId, std::string sName, Board& bBoard1, bool is_Computer,
       isComputer_(is_Computer),
       board_(bBoard1) {}
 
-Windows& player::windows() const {
+Ports& player::windows() const {
     return board_.windows();
 }
 

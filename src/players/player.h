@@ -9,16 +9,16 @@
 #include <cstdint>
 #include <string>
 
-#include "game/Integer.h"
+#include "base/Integer.h"
 #include "players/CellSet.h"
-#include "windows/Sound.h"
+#include "ports/Sound.h"
 
 namespace gw {
 
 class Board;
 class BoardCell;
 class PropertyCell;
-class Windows;
+struct Ports;
 
 constexpr Integer kStartingBalance = 1500;
 constexpr Integer kGoMoney = 200;
@@ -115,7 +115,7 @@ public:
     void autoTrade();
 
 private:
-    Windows& windows() const;
+    Ports& windows() const;
     BoardCell* cellUnder() const;
     // The buyable cell under the token, or null.
     PropertyCell* propertyUnder() const;

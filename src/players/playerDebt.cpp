@@ -4,9 +4,9 @@
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
 #include "cells/TaxCell.h"
-#include "game/Board.h"
+#include "game/Board.h"  // the board seating this player, which holds it in turn
 #include "players/player.h"
-#include "windows/Windows.h"
+#include "ports/Ports.h"
 
 namespace gw {
 

@@ -3,9 +3,9 @@
 // when it fails; buyProperty alone trusts its caller.
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
-#include "game/Board.h"
+#include "game/Board.h"  // the board seating this player, which holds it in turn
 #include "players/player.h"
-#include "windows/Windows.h"
+#include "ports/Ports.h"
 
 namespace gw {
 namespace {

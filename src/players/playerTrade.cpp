@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Sales of one cell between two players, for money.
 #include "cells/PropertyCell.h"
-#include "game/Board.h"
+#include "game/Board.h"  // the board seating this player, which holds it in turn
 #include "players/player.h"
-#include "windows/TradingCardWindow.h"
-#include "windows/Windows.h"
+#include "ports/Ports.h"
 
 namespace gw {
 
@@ -14,7 +13,7 @@ void player::offerTrade(Integer cellId, Integer amount) {
     player* owner = prop->getProp().getOwners();
     // An offer left on the table for a cell that has gone back to the bank has nobody to ask.
     if (owner == nullptr) return;
-    TradingCardWindow& window = windows().trading;
+    TradingCardPort& window = windows().cards.trading;
     window.seeTrade(cellId, *owner, amount);
     if (!owner->isComputer2()) return;
     window.computerThink();

@@ -47,7 +47,7 @@ QRectF panelTokenRect(int row) {
 
 }  // namespace
 
-MainWindowView::MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints prints)
+MainWindowView::MainWindowView(Dispatch& dispatch, MainWindow& model)
     : dispatch_(dispatch), model_(model), stage_(new QWidget(this)), client_(new QWidget(stage_)) {
     setWindowTitle(QStringLiteral("Gildenway v1.0"));
     client_->setFixedSize(kClient);
@@ -55,7 +55,7 @@ MainWindowView::MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints
     setCentralWidget(stage_);
     stage_->setMinimumSize(kClient / 4);
     stage_->installEventFilter(this);
-    board_ = new BoardWidget(client_, model_, std::move(prints));
+    board_ = new BoardWidget(client_, model_, cellPrints(model_));
     board_->move(0, 0);
     connect(board_, &BoardWidget::cellClicked, this, [this](int cell) {
         click([this, cell] { model_.cell_Click(static_cast<Integer>(cell)); });

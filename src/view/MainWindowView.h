@@ -20,7 +20,7 @@ namespace gw::view {
 class MainWindowView final : public QMainWindow {
     Q_OBJECT
 public:
-    MainWindowView(Dispatch& dispatch, MainWindow& model, CellPrints prints);
+    MainWindowView(Dispatch& dispatch, MainWindow& model);
 
     void refresh();
     // A menu of the bar whose action carries this property stays open while a card is up.

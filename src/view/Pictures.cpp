@@ -17,7 +17,7 @@
 #include "art/Render.h"
 #include "art/StartWindow.h"
 #include "art/Tokens.h"
-#include "windows/CellFaces.h"
+#include "windows/MainWindow.h"
 
 namespace gw::view {
 
@@ -80,11 +80,11 @@ art::CellFace artFaceOf(const CellFace& face) {
 
 }  // namespace
 
-CellPrints cellPrints(const CellFaces& faces) {
+CellPrints cellPrints(const MainWindow& model) {
     CellPrints prints;
     for (int i = 0; i < 40; ++i) {
         prints[static_cast<std::size_t>(i)] =
-            std::make_shared<CellPrint>(CellPrint{artFaceOf(faces.face(i))});
+            std::make_shared<CellPrint>(CellPrint{artFaceOf(model.cellFace(i))});
     }
     return prints;
 }

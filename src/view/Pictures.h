@@ -11,12 +11,12 @@
 #include <functional>
 #include <memory>
 
-#include "windows/WindowCodes.h"
+#include "ports/WindowCodes.h"
 
 class QPainter;
 
 namespace gw {
-class CellFaces;
+class MainWindow;
 }
 
 namespace gw::view {
@@ -27,7 +27,7 @@ using Paint = std::function<void(QPainter&, const QRectF&)>;
 // What a board cell prints, read once from the faces the window model gives.
 struct CellPrint;
 using CellPrints = std::array<std::shared_ptr<const CellPrint>, 40>;
-CellPrints cellPrints(const CellFaces& faces);
+CellPrints cellPrints(const MainWindow& model);
 // The name a cell prints, which is also what it is called to a screen reader.
 QString printedName(const CellPrint& print);
 void paintCell(QPainter& p, const QRectF& rect, int cellId, const CellPrint& print);

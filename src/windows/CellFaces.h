@@ -6,8 +6,8 @@
 #include <array>
 #include <string>
 
-#include "game/Integer.h"
-#include "game/Limits.h"
+#include "base/Integer.h"
+#include "base/Limits.h"
 
 namespace gw {
 
@@ -35,6 +35,7 @@ struct CellFace {
 
 class CellFaces {
 public:
+    CellFaces() = default;
     explicit CellFaces(const Board& board);
 
     const CellFace& face(int cellId) const { return faces_[static_cast<std::size_t>(cellId)]; }

@@ -9,24 +9,25 @@
 #include <span>
 #include <string>
 
-#include "game/Integer.h"
+#include "base/Integer.h"
+#include "ports/CardPorts.h"
+#include "ports/WindowCodes.h"
 #include "windows/Control.h"
-#include "windows/WindowCodes.h"
 
 namespace gw {
 
 class Windows;
 class player;
 
-class CellInfoWindow : public WindowModel {
+class CellInfoWindow final : public WindowModel, public PropertyCardPort {
 public:
     explicit CellInfoWindow(Windows& windows) : windows_(windows) {}
 
     // Fills the card and puts it on the screen; opt: 0 information, 1 buy, 2 rent,
     // 3 own cell, 4 another player's cell open to a trade.
     void showInfoCard(Integer iId, Integer iGroup, std::span<const Integer> iValues, Integer opt,
-                      player& p, const std::string& sName, const std::string& sOwner);
-    bool computerThink();
+                      player& p, const std::string& sName, const std::string& sOwner) override;
+    bool computerThink() override;
 
     void buy_Click();
     void buyHotel_Click();
@@ -35,7 +36,7 @@ public:
     void Ok_Click(int index);
     void payRent_Click();
     void sellHotel_Click();
-    void trade_Click();
+    void trade_Click() override;
     void Unmortgage_Click();
     // The window's own close box: no effect on the game, but the main window comes back.
     void close();

@@ -55,6 +55,7 @@ GameRun::GameRun(Sound& sound, Delay& delay, MessageBox& messages, std::unique_p
 void GameRun::start() {
     random_->record();
     start_.Form_Load();
+    main_.readCellFaces(board_);
 }
 
 void GameRun::setOnChanged(std::function<void()> hook) {

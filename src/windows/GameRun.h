@@ -11,8 +11,9 @@
 
 #include "game/Board.h"
 #include "game/Random.h"
+#include "ports/Delay.h"
+#include "ports/Sound.h"
 #include "windows/DebtHelp.h"
-#include "windows/Delay.h"
 #include "windows/GameEnd.h"
 #include "windows/GameStart.h"
 #include "windows/GameStory.h"
@@ -23,7 +24,6 @@
 #include "windows/Narrator.h"
 #include "windows/Question.h"
 #include "windows/ReplayRandom.h"
-#include "windows/Sound.h"
 #include "windows/Voice.h"
 #include "windows/Windows.h"
 

@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "game/Board.h"
+#include "ports/Sound.h"
 #include "windows/MessageBox.h"
-#include "windows/Sound.h"
 
 namespace gw {
 

@@ -9,9 +9,9 @@
 #include <string>
 #include <string_view>
 
+#include "base/Integer.h"
+#include "base/Limits.h"
 #include "game/GameSetup.h"
-#include "game/Integer.h"
-#include "game/Limits.h"
 #include "windows/Control.h"
 
 namespace gw {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "windows/MainWindowPort.h"
+#include "ports/MainWindowPort.h"
 
 namespace gw {
 

@@ -10,10 +10,10 @@
 #include <string>
 #include <vector>
 
-#include "game/Integer.h"
-#include "game/Limits.h"
+#include "base/Integer.h"
+#include "base/Limits.h"
+#include "ports/MainWindowPort.h"
 #include "windows/Control.h"
-#include "windows/MainWindowPort.h"
 
 namespace gw {
 

@@ -5,18 +5,19 @@
 
 #include <string>
 
+#include "ports/CardPorts.h"
 #include "windows/Control.h"
 
 namespace gw {
 
 class Windows;
 
-class JFLCardWindow : public WindowModel {
+class JFLCardWindow final : public WindowModel, public JFLCardPort {
 public:
     explicit JFLCardWindow(Windows& windows) : windows_(windows) {}
 
-    void showJFLCard(const std::string& sDesc);
-    bool computerThink();
+    void showJFLCard(const std::string& sDesc) override;
+    bool computerThink() override;
     void Ok_Click();
 
     // Every control by its name, as a view binds them.

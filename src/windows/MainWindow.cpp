@@ -6,8 +6,8 @@
 #include "cells/PropertyCell.h"
 #include "cells/Street.h"
 #include "game/Board.h"
-#include "windows/Delay.h"
-#include "windows/Sound.h"
+#include "ports/Delay.h"
+#include "ports/Sound.h"
 
 namespace gw {
 namespace {

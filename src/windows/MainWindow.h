@@ -9,9 +9,10 @@
 #include <functional>
 #include <string>
 
-#include "game/Integer.h"
+#include "base/Integer.h"
+#include "ports/MainWindowPort.h"
+#include "windows/CellFaces.h"
 #include "windows/Control.h"
-#include "windows/MainWindowPort.h"
 
 namespace gw {
 
@@ -75,6 +76,8 @@ public:
     void init(Board& bBoard1);
     // Draws the order of play, fills the panel and opens the first turn.
     void startGame();
+    // Reads what the board prints on its forty cells, once the cells exist.
+    void readCellFaces(const Board& board) { faces_ = CellFaces(board); }
 
     // What the rules call
     void showInfo(std::string_view msg) override;
@@ -142,6 +145,8 @@ public:
     int hotelsShown(int cellId) const { return hotels_[static_cast<std::size_t>(cellId)]; }
     bool mortgageShown(int cellId) const { return mortgaged_[static_cast<std::size_t>(cellId)]; }
     int ownerMark(int cellId) const { return ownedBy_[static_cast<std::size_t>(cellId)]; }
+    // The printed face of a cell: its kind, name, price and district.
+    const CellFace& cellFace(int cellId) const { return faces_.face(cellId); }
     // The faces on top of each die, 0 before the first roll.
     Integer dieFace1() const { return die1_; }
     Integer dieFace2() const { return die2_; }
@@ -158,6 +163,7 @@ private:
     Sound& sound_;
     Delay& delay_;
     Board* board_ = nullptr;
+    CellFaces faces_;
 
     std::function<void()> onExit_;
     std::function<void()> onAbout_;

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-#include "windows/MainWindowPort.h"
+#include "ports/MainWindowPort.h"
 
 namespace gw {
 

@@ -8,7 +8,7 @@
 #include <optional>
 #include <string_view>
 
-#include "game/Integer.h"
+#include "base/Integer.h"
 
 namespace gw {
 

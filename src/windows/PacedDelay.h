@@ -6,7 +6,7 @@
 // can be changed back) through a long run of instant computer turns.
 #pragma once
 
-#include "windows/Delay.h"
+#include "ports/Delay.h"
 #include "windows/Pace.h"
 
 namespace gw {

@@ -3,8 +3,8 @@
 // either; volumes always pass, so muting holds whatever the pace.
 #pragma once
 
+#include "ports/Sound.h"
 #include "windows/PacedDelay.h"
-#include "windows/Sound.h"
 
 namespace gw {
 

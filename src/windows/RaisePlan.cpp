@@ -8,8 +8,8 @@
 #include "cells/Street.h"
 #include "game/Board.h"
 #include "players/player.h"
-#include "windows/Delay.h"
-#include "windows/MainWindowPort.h"
+#include "ports/Delay.h"
+#include "ports/MainWindowPort.h"
 #include "windows/Windows.h"
 
 namespace gw {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "game/Integer.h"
+#include "base/Integer.h"
 
 namespace gw {
 

@@ -7,16 +7,17 @@
 #include <optional>
 #include <string>
 
-#include "game/Integer.h"
+#include "base/Integer.h"
+#include "ports/CardPorts.h"
+#include "ports/WindowCodes.h"
 #include "windows/Control.h"
-#include "windows/WindowCodes.h"
 
 namespace gw {
 
 class Windows;
 class player;
 
-class TradingCardWindow : public WindowModel {
+class TradingCardWindow final : public WindowModel, public TradingCardPort {
 public:
     static constexpr std::size_t kAmountMaxLength = 5;
 
@@ -26,12 +27,12 @@ public:
     void proposeTrade(Integer iId, player& buyer, const std::string& sStreetName,
                       const std::string& sOwner);
     // The owner's face, with the sum on the table.
-    void seeTrade(Integer iId, player& owner, Integer iAmount);
-    bool computerThink();
+    void seeTrade(Integer iId, player& owner, Integer iAmount) override;
+    bool computerThink() override;
 
     void doneDeal_Click();
     void forgetIt_Click();
-    void wantIt_Click();
+    void wantIt_Click() override;
     void wantMore_Click();
 
     // The amount box. Focus, a click into it and the card opening or turning to its other
@@ -43,7 +44,7 @@ public:
     // Types one key into the box as the text box would: filtered, then replacing the
     // selection or appended while the box has room.
     void typeKey(char key);
-    void setAmountText(std::string text);
+    void setAmountText(std::string text) override;
     const std::string& amountText() const { return amount_; }
     bool amountSelected() const { return amountSelected_; }
     // The typed sum as a number; nothing for an empty box or one above 32767.

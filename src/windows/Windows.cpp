@@ -8,7 +8,7 @@
 
 namespace gw {
 
-struct Windows::Cards {
+struct CardModels::Cards {
     explicit Cards(Windows& windows)
         : cellInfo(windows), trading(windows), jflCard(windows), taxCard(windows) {}
     CellInfoWindow cellInfo;
@@ -17,11 +17,16 @@ struct Windows::Cards {
     taxCellWindow taxCard;
 };
 
+CardModels::CardModels(Windows& windows) : cards_(std::make_unique<Cards>(windows)) {}
+
+CardModels::~CardModels() = default;
+
 Windows::Windows(MainWindowPort& mainWindow, Sound& soundPlayer, Delay& delayTime)
-    : cards_(std::make_unique<Cards>(*this)),
-      main(mainWindow),
-      sound(soundPlayer),
-      delay(delayTime),
+    : CardModels(*this),
+      Ports{mainWindow,
+            soundPlayer,
+            delayTime,
+            {cards_->cellInfo, cards_->trading, cards_->jflCard, cards_->taxCard}},
       cellInfo(cards_->cellInfo),
       trading(cards_->trading),
       jflCard(cards_->jflCard),

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The windows that the rules talk to, gathered for one game: the main window (behind
-// its port), the sound, the delays, and the four card windows, which are plain models.
-// The cards are only declared here: a file that opens one includes that card's header,
+// its port), the sound, the delays, and the four cards behind theirs. The cards' models
+// are only declared here: a view or a test that clicks one includes that card's header,
 // so that an edit to one card rebuilds only the files that use it.
 #pragma once
 
 #include <functional>
 #include <memory>
 
-#include "windows/Delay.h"
-#include "windows/MainWindowPort.h"
-#include "windows/Sound.h"
+#include "ports/Ports.h"
 
 namespace gw {
 
@@ -18,12 +16,20 @@ class CellInfoWindow;
 class TradingCardWindow;
 class JFLCardWindow;
 class taxCellWindow;
+class Windows;
 
-class Windows {
+// Holds the four cards' models; a base of Windows ahead of its ports, so that the cards
+// exist before the ports are bound to them.
+class CardModels {
+protected:
+    explicit CardModels(Windows& windows);
+    ~CardModels();
     struct Cards;
-    // First, so that the cards exist before the references to them are bound.
     std::unique_ptr<Cards> cards_;
+};
 
+// The ports the rules see, and behind them the cards' models for views, tests and clicks.
+class Windows : private CardModels, public Ports {
 public:
     Windows(MainWindowPort& mainWindow, Sound& soundPlayer, Delay& delayTime);
     ~Windows();
@@ -35,9 +41,6 @@ public:
     // One hook for the four cards; see GameRun::setOnChanged.
     void setOnChanged(const std::function<void()>& hook);
 
-    MainWindowPort& main;
-    Sound& sound;
-    Delay& delay;
     CellInfoWindow& cellInfo;
     TradingCardWindow& trading;
     JFLCardWindow& jflCard;

@@ -5,21 +5,22 @@
 
 #include <string>
 
-#include "game/Integer.h"
+#include "base/Integer.h"
+#include "ports/CardPorts.h"
+#include "ports/WindowCodes.h"
 #include "windows/Control.h"
-#include "windows/WindowCodes.h"
 
 namespace gw {
 
 class Windows;
 class player;
 
-class taxCellWindow : public WindowModel {
+class taxCellWindow final : public WindowModel, public TaxCardPort {
 public:
     explicit taxCellWindow(Windows& windows) : windows_(windows) {}
 
-    void showTaxCard(Integer iId, player& p, Integer amount, Integer opt);
-    bool computerThink();
+    void showTaxCard(Integer iId, player& p, Integer amount, Integer opt) override;
+    bool computerThink() override;
     void payRent_Click();
 
     // Every control by its name, as a view binds them.

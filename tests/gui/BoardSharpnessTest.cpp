@@ -12,7 +12,6 @@
 #include "art/Render.h"
 #include "view/BoardLayout.h"
 #include "view/BoardWidget.h"
-#include "windows/CellFaces.h"
 
 namespace gw::test {
 namespace {
@@ -36,7 +35,7 @@ TEST(BoardSharpness, ADieDrawnAtTwiceTheSizeIsPaintedAtThatSize) {
     GuiRun gui(std::make_unique<SeededRandom>(3));
     MainWindow& model = gui.run.mainWindow();
     gui.run.click([&] { model.Showdice(3, 5); });
-    view::BoardWidget board(nullptr, model, view::cellPrints(CellFaces(gui.run.board())));
+    view::BoardWidget board(nullptr, model, view::cellPrints(model));
 
     constexpr qreal kRatio = 2;
     QImage drawn(board.size() * kRatio, QImage::Format_ARGB32_Premultiplied);

@@ -16,7 +16,7 @@
 
 #include "Measures.h"
 #include "WavReader.h"
-#include "windows/Sound.h"
+#include "ports/Sound.h"
 
 namespace gw {
 

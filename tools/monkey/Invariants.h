@@ -8,8 +8,8 @@
 #include <array>
 #include <string>
 
-#include "game/Integer.h"
-#include "game/Limits.h"
+#include "base/Integer.h"
+#include "base/Limits.h"
 
 namespace gw {
 class Board;

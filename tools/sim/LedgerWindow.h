@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "game/Board.h"
-#include "windows/MainWindowPort.h"
+#include "ports/MainWindowPort.h"
 
 namespace gw::sim {
 

@@ -8,7 +8,7 @@
 
 #include <array>
 
-#include "game/Integer.h"
+#include "base/Integer.h"
 
 namespace gw::sim {
 

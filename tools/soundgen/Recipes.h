@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Signal.h"
-#include "windows/Sound.h"
+#include "ports/Sound.h"
 
 namespace gw::soundgen {
 

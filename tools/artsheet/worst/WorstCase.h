@@ -11,9 +11,9 @@
 #include "app/Program.h"
 #include "app/QtDelay.h"
 #include "game/Random.h"
+#include "ports/Sound.h"
 #include "windows/GameRun.h"
 #include "windows/MessageBox.h"
-#include "windows/Sound.h"
 
 namespace gw::worst {
 

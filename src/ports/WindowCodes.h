@@ -3,7 +3,7 @@
 // pictures is checked by the compiler rather than by bare numbers.
 #pragma once
 
-#include "game/Integer.h"
+#include "base/Integer.h"
 
 namespace gw {
 

@@ -3,7 +3,7 @@
 // can run to its end inside it; a headless run returns at once.
 #pragma once
 
-#include "game/Integer.h"
+#include "base/Integer.h"
 
 namespace gw {
 

@@ -6,9 +6,9 @@
 #include <array>
 #include <string_view>
 
-#include "game/Integer.h"
-#include "game/Limits.h"
-#include "windows/WindowCodes.h"
+#include "base/Integer.h"
+#include "base/Limits.h"
+#include "ports/WindowCodes.h"
 
 namespace gw {
 

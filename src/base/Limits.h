@@ -2,7 +2,7 @@
 // The sizes of the game that every table is cut to.
 #pragma once
 
-#include "game/Integer.h"
+#include "base/Integer.h"
 
 namespace gw {
 
