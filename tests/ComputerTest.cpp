@@ -2,7 +2,6 @@
 // The computer's turn: leaving jail, buying, paying, releasing, raising money, building
 // and trading, by its fixed thresholds.
 #include "GameFixture.h"
-#include "windows/CellInfoWindow.h"
 #include "windows/TradingCardWindow.h"
 
 namespace gw::test {
@@ -210,7 +209,7 @@ TEST_F(Trade, NoOfferOnALowDrawForAStreetOfTheBankWithOneOfThreeOrBeforeOwnDist)
     cpu->autoTrade();  // a two-street district's third column still reads false
     EXPECT_EQ(random->remaining(), 1u);
     EXPECT_TRUE(rec.log.empty());
-    EXPECT_FALSE(card().isVisible());
+    EXPECT_FALSE(cardUp());
     EXPECT_FALSE(trading().isVisible());
 }
 

@@ -21,7 +21,7 @@ TEST_F(DoublesAndJail, AThrowWithoutDoublesEndsTheChainAndTheTurnPassesOn) {
     ASSERT_EQ(&board->getCurrPlayer(), ann);
     throwAndLand(1, 2);  // to Saint-Sulpice, for sale
     EXPECT_EQ(ann->getDoubleCount(), 0);
-    forgetCard();
+    onCard("forget");
     board->endTurn();
     EXPECT_EQ(&board->getCurrPlayer(), bob);
     EXPECT_EQ(rec.log.back(), "showInJail");

@@ -2,7 +2,6 @@
 // A balance that is exactly what is asked: a hotel bought with its cost in hand, a rent
 // paid with its sum in hand, both leaving 0 and no debt shown.
 #include "GameFixture.h"
-#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {
@@ -33,8 +32,8 @@ TEST_F(ExactBalance, ARentOfExactlyTheBalanceIsPaidWithNoShortfall) {
         placeAt(*ann, 0);
         setBalance(*ann, due);
         land(*ann, 1);
-        ASSERT_EQ(card().cardOpt(), kOptRent);
-        card().payRent_Click();
+        ASSERT_EQ(cardOpt(), kOptRent);
+        onCard("payRent");
         EXPECT_EQ(ann->getBalance(), 0);
         EXPECT_EQ(bob->getBalance(), 1500 + due);
         EXPECT_FALSE(rec.has("showNegBalance(true)"));

@@ -5,6 +5,7 @@
 #include "RunFixture.h"
 #include "SteadyHumans.h"
 #include "windows/GameStory.h"
+#include "windows/TradingCardWindow.h"
 
 namespace gw::test {
 namespace {
@@ -12,18 +13,10 @@ namespace {
 class GameStoryTest : public RunFixture {
 protected:
     const GameStory& story() const { return run->story(); }
-    void buyWhereTheThrowLands(int a, int b) {
-        nextThrow(a, b);
-        roll();
-        ASSERT_TRUE(card().buy().isOpen());
-        click([&] { card().buy_Click(); });
-    }
 };
 
 TEST_F(GameStoryTest, AScriptedGameOfPurchasesRentAndATrade) {
-    addPlayer("Ann", 0);
-    addPlayer("Bob", 1);
-    letsStart();
+    seatAnnAndBob();
     buyWhereTheThrowLands(1, 2);  // Ann: Saint-Jacques, $100
     endTurn();
     buyWhereTheThrowLands(2, 4);  // Bob: Wellington, $130
@@ -39,24 +32,16 @@ TEST_F(GameStoryTest, AScriptedGameOfPurchasesRentAndATrade) {
 
     nextThrow(1, 2);  // Ann from 3 to Bob's Wellington: rent
     roll();
-    ASSERT_TRUE(card().payRent().isOpen());
-    click([&] { card().payRent_Click(); });
+    ASSERT_TRUE(cardOffers("payRent"));
+    onCard("payRent");
     const long long rent = 1400 - seat(0).getBalance();
     ASSERT_GT(rent, 0);
     EXPECT_EQ(seat(1).getBalance(), 1370 + rent);
     endTurn();
 
     // Bob buys Saint-Jacques from Ann for $180 on the trading card.
-    TradingCardWindow& trading = windows().trading;
-    click([&] { main().cell_Click(3); });
-    ASSERT_TRUE(card().trade().isOpen());
-    click([&] { card().trade_Click(); });
-    click([&] {
-        trading.amount_GotFocus();
-        for (char key : std::string("180")) trading.typeKey(key);
-    });
-    click([&] { trading.wantIt_Click(); });
-    click([&] { trading.doneDeal_Click(); });
+    askFor(3, "180");
+    click([&] { windows().trading.doneDeal_Click(); });
     ASSERT_EQ(board().propertyAt(3)->getProp().getOwners(), &seat(1));
     throwAndPass(1, 2);  // Bob from 6 to Centre (9), let go
 

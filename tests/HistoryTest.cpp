@@ -2,7 +2,6 @@
 // The story of a game of a human and a computer, told in order from what the rules tell
 // the main window: messages, payments, purchases, cards, jail, mortgages and bankruptcy.
 #include "RunFixture.h"
-#include "windows/CellInfoWindow.h"
 #include "windows/JFLCardWindow.h"
 
 namespace gw::test {
@@ -30,14 +29,14 @@ protected:
 TEST_F(HistoryRun, TellsAGameOfAHumanAndAComputerInOrder) {
     nextThrow(1, 2);  // Ann onto Saint-Jacques (3)
     roll();
-    click([&] { card().buy_Click(); });
+    onCard("buy");
     nextThrow(2, 3);  // the computer onto Outremont (5)
     endTurn();
     nextThrow(1, 3);  // Ann onto the JFL cell (7)
     roll();
     if (windows().jflCard.isVisible()) click([&] { windows().jflCard.Ok_Click(); });
     click([&] { main().cell_Click(3); });
-    click([&] { card().Mortgage_Click(0); });
+    onCard("Mortgage(0)");
     click([&] { seat(0).debit(3000); });
     click([&] { main().declareBank_Click(); });
     EXPECT_EQ(told(), (Lines{

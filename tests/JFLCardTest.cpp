@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "GameFixture.h"
-#include "windows/CellInfoWindow.h"
 #include "windows/JFLCardWindow.h"
 #include "windows/taxCellWindow.h"
 
@@ -29,7 +28,7 @@ protected:
     }
     // Ann, with 1500 and no card up, lands on a card cell with this card on top.
     void draw(int type, Integer cellId) {
-        card().close();
+        onCard("close");
         onTop({type});
         setBalance(*ann, 1500);
         land(*ann, cellId);
@@ -88,14 +87,14 @@ TEST_F(Cards, AdvanceCardsFromEveryCardCellPayGoMoneyOnlyWhenPassingGo) {
         draw(kGreen, cellId);
         EXPECT_EQ(ann->getPosition(), 37);
         EXPECT_EQ(ann->getBalance(), 1500);
-        EXPECT_TRUE(card().isVisible());
-        EXPECT_EQ(card().cardId(), 37);
-        EXPECT_EQ(card().cardOpt(), kOptBuy);
+        EXPECT_TRUE(cardUp());
+        EXPECT_EQ(cardCell(), 37);
+        EXPECT_EQ(cardOpt(), kOptBuy);
         draw(kStLaurent, cellId);
         EXPECT_EQ(ann->getPosition(), 16);
         EXPECT_EQ(ann->getBalance(), balance);
-        EXPECT_EQ(card().cardId(), 16);
-        EXPECT_EQ(card().cardOpt(), kOptBuy);
+        EXPECT_EQ(cardCell(), 16);
+        EXPECT_EQ(cardOpt(), kOptBuy);
     }
     // The last, from 36: via Go, then on to 16.
     EXPECT_EQ(moves(), (Lines{"MoveToken(0,36,39)", "sound: buy.wav", "MoveToken(0,0,0)",
@@ -127,7 +126,7 @@ TEST_F(Cards, BackThreeGoesRoundWithoutGoMoneyAndLandsWhereItEnds) {
     draw(kBack3, 2);
     EXPECT_EQ(ann->getPosition(), 39);
     EXPECT_EQ(ann->getBalance(), 1500);
-    EXPECT_EQ(card().cardId(), 39);
+    EXPECT_EQ(cardCell(), 39);
 
     draw(kBack3, 7);
     EXPECT_EQ(ann->getPosition(), 4);
@@ -197,13 +196,13 @@ TEST_F(Cards, DoNothingShowsTheCardForTheWaitAndChangesNothing) {
 
 TEST_F(Cards, HumanMovedOntoAPropertyMustDealWithItsCardBeforeEndTurn) {
     draw(kGreen, 33);
-    card().close();  // the close box is not a decision
+    onCard("close");  // the close box is not a decision
     rec.clear();
     board->endTurn();
     EXPECT_EQ(rec.log.front(), "showInfo: You must do something before you end your turn");
     EXPECT_EQ(&board->getCurrPlayer(), ann);
-    EXPECT_TRUE(card().isVisible());  // the landing ran again
-    EXPECT_EQ(card().cardOpt(), kOptBuy);
+    EXPECT_TRUE(cardUp());  // the landing ran again
+    EXPECT_EQ(cardOpt(), kOptBuy);
 }
 
 }  // namespace

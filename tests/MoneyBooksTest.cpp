@@ -3,7 +3,6 @@
 // a mortgage clicked while the token walks, and money that no rule moved.
 #include "MoneyBooks.h"
 #include "RunFixture.h"
-#include "windows/CellInfoWindow.h"
 #include "windows/TradingCardWindow.h"
 #include "windows/Windows.h"
 
@@ -14,19 +13,10 @@ class Books : public RunFixture {
 protected:
     Books() {
         run->watchMainWindow(books.window(), [this] { books.begin(board()); });
-        addPlayer("Ann", 0);
-        addPlayer("Bob", 1);
-        letsStart();
+        seatAnnAndBob();
     }
     // The run hears the books to its end, so it goes first.
     ~Books() override { run.reset(); }
-
-    void buyWhereTheThrowLands(int a, int b) {
-        nextThrow(a, b);
-        roll();
-        ASSERT_TRUE(card().buy().isOpen());
-        click([&] { card().buy_Click(); });
-    }
 
     monkey::MoneyBooks books;
 };
@@ -37,15 +27,8 @@ TEST_F(Books, BalanceASaleAtATypedSumAndAMortgageClickedInsideAWalk) {
     EXPECT_EQ(books.check(), "");
 
     // Bob offers 7 for it and Ann takes it.
-    TradingCardWindow& trading = windows().trading;
-    click([&] { main().cell_Click(3); });
-    click([&] { card().trade_Click(); });
-    click([&] {
-        trading.amount_GotFocus();
-        trading.typeKey('7');
-    });
-    click([&] { trading.wantIt_Click(); });
-    click([&] { trading.doneDeal_Click(); });
+    askFor(3, "7");
+    click([&] { windows().trading.doneDeal_Click(); });
     ASSERT_EQ(board().propertyAt(3)->getProp().getOwners(), &seat(1));
 
     // Bob is put on cell 34 and throws past Go; while his token walks he mortgages what he
@@ -59,7 +42,7 @@ TEST_F(Books, BalanceASaleAtATypedSumAndAMortgageClickedInsideAWalk) {
     rec.duringWait = [&] {
         books.readApart([&] {
             click([&] { main().cell_Click(3); });
-            click([&] { card().Mortgage_Click(0); });
+            onCard("Mortgage(0)");
         });
     };
     nextThrow(4, 3);  // 34 to 1

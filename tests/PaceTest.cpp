@@ -13,6 +13,7 @@
 #include "Signature.h"
 #include "SteadyHumans.h"
 #include "game/Random.h"
+#include "windows/GameRun.h"
 #include "windows/MessageBox.h"
 #include "windows/PacedDelay.h"
 #include "windows/PacedSound.h"

@@ -9,6 +9,7 @@
 #include "Signature.h"
 #include "SteadyHumans.h"
 #include "game/Board.h"
+#include "windows/GameRun.h"
 #include "windows/MessageBox.h"
 
 namespace gw::test {

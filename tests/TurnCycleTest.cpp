@@ -2,7 +2,6 @@
 // A turn from the throw to the hand-over: moves, Go money, doubles, jail and the two
 // refusals of End Turn, checked against the recorded order of window calls and sounds.
 #include "GameFixture.h"
-#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {
@@ -29,7 +28,7 @@ TEST_F(TurnCycle, DoublesLetTheSamePlayerGoAgain) {
     board->playTurn();
     EXPECT_TRUE(rec.has("showInfo: Ann, you have rolled doubles, go again!"));
     EXPECT_EQ(ann->getPosition(), 6);
-    card().forget_Click();
+    onCard("forget");
     board->endTurn();
     EXPECT_EQ(&board->getCurrPlayer(), ann);
     EXPECT_EQ(rec.log.back(), "showInJail");
@@ -93,7 +92,7 @@ TEST_F(TurnCycle, DoublesInJailFreeMoveAndThrowAgain) {
     EXPECT_TRUE(rec.has("showInfo: Good JobAnn, you can now get out of jail!"));
     EXPECT_FALSE(ann->IsInJail());
     EXPECT_EQ(ann->getPosition(), 18);
-    card().forget_Click();
+    onCard("forget");
     board->endTurn();
     EXPECT_EQ(&board->getCurrPlayer(), ann);
 }
@@ -103,15 +102,15 @@ TEST_F(TurnCycle, AHumanTurnEndsOnlyWhenTheLandingIsDealtWithAndNothingIsOwed) {
     board->playTurn();
     EXPECT_EQ(ann->getPosition(), 3);
     EXPECT_EQ(rec.log.back(), "UpdateTurnPlaying(1)");
-    EXPECT_TRUE(card().isVisible());  // the purchase card of Saint-Jacques
-    EXPECT_EQ(card().cardOpt(), kOptBuy);
+    EXPECT_TRUE(cardUp());  // the purchase card of Saint-Jacques
+    EXPECT_EQ(cardOpt(), kOptBuy);
     rec.clear();
     board->endTurn();
     EXPECT_EQ(rec.log.front(), "showInfo: You must do something before you end your turn");
     EXPECT_EQ(&board->getCurrPlayer(), ann);
-    EXPECT_TRUE(card().isVisible());  // the landing ran again
+    EXPECT_TRUE(cardUp());  // the landing ran again
 
-    card().forget_Click();
+    onCard("forget");
     setBalance(*ann, -1);
     board->endTurn();
     EXPECT_EQ(rec.log.front(), "showInfo: You must make money first");

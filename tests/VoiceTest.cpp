@@ -2,7 +2,6 @@
 // File > Voice: silent at start, reads each new message of the message line once enabled,
 // and stops when muted.
 #include "RunFixture.h"
-#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {
@@ -20,7 +19,7 @@ protected:
     void scriptedTurn() {
         nextThrow(1, 2);
         roll();
-        click([&] { card().buy_Click(); });
+        onCard("buy");
         nextThrow(2, 3);
         endTurn();
     }
@@ -45,7 +44,7 @@ TEST_F(VoiceRun, MuteStopsTheSentenceAndTheNextOnes) {
     click([&] { narrator().Enable1_Click(); });
     nextThrow(1, 2);
     roll();
-    click([&] { card().buy_Click(); });
+    onCard("buy");
     click([&] { narrator().Mute1_Click(); });
     EXPECT_EQ(voice.stops, 1);
     nextThrow(2, 3);
