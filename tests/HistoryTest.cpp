@@ -1,20 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The story of a game of a human and a computer, told in order from what the rules tell
-// the main window: messages, payments, purchases, cards, jail, mortgages and bankruptcy.
+// A game of a human and a computer told twice: in order by the History window, from what the
+// rules tell the main window (messages, payments, purchases, cards, jail, mortgages and
+// bankruptcy), and aloud by File > Voice, which reads each new message once enabled and
+// stops when muted.
 #include "RunFixture.h"
 #include "windows/JFLCardWindow.h"
 
 namespace gw::test {
 namespace {
 
-class HistoryRun : public RunFixture {
+class Told : public RunFixture {
 protected:
-    HistoryRun() {
+    Told() {
+        run->setVoice(voice);
         addPlayer("Ann", 1);
         addPlayer("Robot", 2, true);
         letsStart();
     }
     const History& history() { return run->history(); }
+    Narrator& narrator() { return run->narrator(); }
     // Each entry as "round name: text", from the first one at or after `from`.
     Lines told(std::size_t from = 0) {
         Lines lines;
@@ -24,15 +28,20 @@ protected:
         }
         return lines;
     }
+    // Ann throws onto Saint-Jacques and buys it; the computer throws onto Outremont.
+    void scriptedTurn() {
+        buyWhereTheThrowLands(1, 2);
+        nextThrow(2, 3);
+        endTurn();
+    }
+
+    RecordedVoice voice;
 };
 
-TEST_F(HistoryRun, TellsAGameOfAHumanAndAComputerInOrder) {
-    nextThrow(1, 2);  // Ann onto Saint-Jacques (3)
-    roll();
-    onCard("buy");
-    nextThrow(2, 3);  // the computer onto Outremont (5)
-    endTurn();
-    nextThrow(1, 3);  // Ann onto the JFL cell (7)
+TEST_F(Told, TheHistoryTellsAGameOfAHumanAndAComputerInOrder) {
+    scriptedTurn();
+    EXPECT_TRUE(voice.said.empty());  // the voice says nothing until enabled
+    nextThrow(1, 3);                  // Ann onto the JFL cell (7)
     roll();
     if (windows().jflCard.isVisible()) click([&] { windows().jflCard.Ok_Click(); });
     click([&] { main().cell_Click(3); });
@@ -63,7 +72,7 @@ TEST_F(HistoryRun, TellsAGameOfAHumanAndAComputerInOrder) {
     EXPECT_EQ(history().entries()[4].token, 2);
 }
 
-TEST_F(HistoryRun, ANewGameStartsTheStoryAfresh) {
+TEST_F(Told, ANewGameStartsTheHistoryAfresh) {
     nextThrow(1, 2);
     roll();
     EXPECT_FALSE(history().entries().empty());
@@ -77,6 +86,24 @@ TEST_F(HistoryRun, ANewGameStartsTheStoryAfresh) {
     addPlayer("Cid", 4);
     letsStart();
     EXPECT_EQ(told(), (Lines{"1 Bea: Let the game begin!"}));
+}
+
+TEST_F(Told, TheVoiceReadsTheMessagesOfAScriptedTurnInOrder) {
+    EXPECT_FALSE(narrator().isEnabled());
+    click([&] { narrator().Enable1_Click(); });
+    scriptedTurn();
+    EXPECT_EQ(voice.said, (std::vector<std::string>{"Ann has bought Saint-Jacques",
+                                                    "Ann, its your turn to play."}));
+}
+
+TEST_F(Told, MuteStopsTheSentenceAndTheNextOnes) {
+    click([&] { narrator().Enable1_Click(); });
+    buyWhereTheThrowLands(1, 2);
+    click([&] { narrator().Mute1_Click(); });
+    EXPECT_EQ(voice.stops, 1);
+    nextThrow(2, 3);
+    endTurn();
+    EXPECT_EQ(voice.said, (std::vector<std::string>{"Ann has bought Saint-Jacques"}));
 }
 
 }  // namespace

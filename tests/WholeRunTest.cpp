@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Whole runs of the program by clicks: humans buying, paying and trading, computers
-// playing to the end, the end window, a new game, and the end of the program from inside
-// a wait.
+// Whole runs of the program by clicks: computers playing to the end, the end window, a new
+// game, About, and the end of the program from inside a wait.
 #include "RunFixture.h"
 #include "windows/CellInfoWindow.h"
 #include "windows/JFLCardWindow.h"
 #include "windows/TradingCardWindow.h"
-#include "windows/Windows.h"
 #include "windows/taxCellWindow.h"
 
 namespace gw::test {
@@ -71,48 +69,6 @@ TEST_F(WholeRun, FourComputersPlayToTheEndThroughTheSetUpWindowAndANewGameIsAsAt
     letsStart();
     EXPECT_TRUE(main().isVisible());
     EXPECT_EQ(main().Label2(), "Ann");
-}
-
-TEST_F(WholeRun, HumansBuyRefusePayRentAndEndTurnsByClicks) {
-    addPlayer("Ann", 0);
-    addPlayer("Bob", 1);
-    letsStart();
-
-    nextThrow(1, 2);  // Ann to Saint-Jacques, 100
-    roll();
-    CellInfoWindow& card = windows().cellInfo;
-    ASSERT_TRUE(card.isVisible());
-    EXPECT_TRUE(card.buy().isOpen());
-    EXPECT_TRUE(card.forget().isOpen());
-    click([&] { card.buy_Click(); });
-    EXPECT_EQ(seat(0).getBalance(), 1400);
-    EXPECT_EQ(main().Label1(), "Ann has bought Saint-Jacques");
-    EXPECT_EQ(main().ownerMark(3), 0);
-    endTurn();
-    EXPECT_EQ(main().Label2(), "Bob");
-    EXPECT_EQ(main().Label1(), "Bob, its your turn to play.");
-
-    nextThrow(1, 2);  // Bob onto Ann's street: the rent card
-    roll();
-    ASSERT_TRUE(card.isVisible());
-    EXPECT_EQ(card.cardOpt(), kOptRent);
-    const Integer rent = board().propertyAt(3)->getRent();
-    EXPECT_EQ(card.payRent().caption, "Pay  " + std::to_string(rent));
-    EXPECT_EQ(main().Label1(), "Bob you owe $" + std::to_string(rent));
-    click([&] { main().endTurn_Click(); });  // not before the rent: the card again
-    EXPECT_EQ(main().Label2(), "Bob");
-    click([&] { card.payRent_Click(); });
-    EXPECT_EQ(seat(1).getBalance(), 1500 - rent);
-    EXPECT_EQ(seat(0).getBalance(), 1400 + rent);
-    endTurn();
-
-    nextThrow(2, 4);  // Ann to Bridge, 150: she lets it go
-    roll();
-    click([&] { card.forget_Click(); });
-    EXPECT_EQ(board().propertyAt(9)->getProp().getOwners(), nullptr);
-    EXPECT_FALSE(card.isVisible());
-    endTurn();
-    EXPECT_EQ(main().Label2(), "Bob");
 }
 
 TEST_F(WholeRun, ExitInsideAComputersCardWaitStopsTheRunAndEndsTheProgram) {
