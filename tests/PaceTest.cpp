@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "CallLog.h"
+#include "Recorder.h"
 #include "Signature.h"
 #include "SteadyHumans.h"
 #include "game/Random.h"
@@ -167,23 +167,23 @@ PacedGame playAt(Pace pace, std::uint64_t seed, std::optional<Pace> later = std:
     PacedSound sound(heard, delay);
     RecordedMessageBox boxes;
     GameRun run(sound, delay, boxes, std::make_unique<SeededRandom>(seed));
-    CallLog log;
-    run.watchMainWindow(log, [] {});
+    Recorder window;
+    run.watchMainWindow(window, [] {});
     run.start();
     seatPlayers(run, {{"Ann", false}, {"Computer1", true}, {"Bob", false}, {"Computer2", true}});
     bool changed = false;
     for (long c = 0; c < 200000 && !run.gameEnd().isVisible(); ++c) {
-        if (later && !changed && log.lines.size() > 100) {
+        if (later && !changed && window.log.size() > 100) {
             delay.setPace(*later);
             changed = true;
         }
         if (!clickAsSteadyHuman(run)) break;
     }
     EXPECT_TRUE(run.gameEnd().isVisible())
-        << "seed " << seed << ", " << log.lines.size() << " calls, last "
-        << (log.lines.empty() ? "" : log.lines.back()) << ", turns " << run.computerTurns();
+        << "seed " << seed << ", " << window.log.size() << " calls, last "
+        << (window.log.empty() ? "" : window.log.back()) << ", turns " << run.computerTurns();
     PacedGame game;
-    game.calls = std::move(log.lines);
+    game.calls = std::move(window.log);
     game.endState = sim::stateHash(run.board());
     game.computerTurns = run.computerTurns();
     game.winner = run.gameEnd().Label1().caption;

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The real delay and a question inside it, the sound files and volumes, the command line, and
-// the text entries' filters as a person types into them.
+// The real delay and a question inside it, the sound files and volumes, and the command line.
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -16,7 +14,6 @@
 #include "app/QtQuestion.h"
 #include "app/QtSound.h"
 #include "game/Board.h"
-#include "windows/TradingCardWindow.h"
 
 namespace gw::test {
 namespace {
@@ -214,37 +211,6 @@ TEST(OptionsTest, HelpListsEveryOptionAndVersionNamesTheRelease) {
     EXPECT_EQ(version.answer, "gildenway 1.0\n");
     const app::Options screenshot = app::parseOptions({"gildenway", "--screenshot", "/tmp/a.png"});
     EXPECT_EQ(screenshot.screenshot, "/tmp/a.png");
-}
-
-// The amount box of the trading card keeps digits only, five at most, and typing after
-// the box gets the focus replaces the old sum.
-TEST(TradingCardEntry, KeepsDigitsAndReplacesTheOldSumOnFocus) {
-    GuiRun gui(std::make_unique<SeededRandom>(5));
-    player* ann = gui.run.board().addPlayer("Ann", false, 0);
-    ASSERT_NE(ann, nullptr);
-    gui.program->dispatch().click(
-        [&] { gui.run.windows().trading.proposeTrade(1, *ann, "Saint-Antoine", "Bob"); });
-    gui.settle();
-    view::TradingCardView& card = gui.program->tradingCard();
-    ASSERT_TRUE(card.isVisible());
-    QApplication::setActiveWindow(&card);  // focus events come only to the active window
-    QLineEdit& amount = *card.controls().entry("amount");
-    amount.setFocus();
-    gui.settle();
-    QTest::keyClicks(&amount, "12a3-");
-    QTest::keyClick(&amount, Qt::Key_Backspace);
-    EXPECT_EQ(gui.run.windows().trading.amountText(), "123");
-    EXPECT_EQ(amount.text(), "123");
-    QTest::keyClicks(&amount, "4567");
-    EXPECT_EQ(gui.run.windows().trading.amountText(), "12345");
-
-    amount.clearFocus();
-    amount.setFocus();
-    gui.settle();
-    EXPECT_TRUE(gui.run.windows().trading.amountSelected());
-    QTest::keyClicks(&amount, "9");
-    EXPECT_EQ(gui.run.windows().trading.amountText(), "9");
-    EXPECT_EQ(amount.text(), "9");
 }
 
 }  // namespace

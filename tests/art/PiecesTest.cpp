@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The pieces of the board: a cell and its card share one band colour, dice faces show their
+// number of pips, the side hotel is the upright one turned, the mortgage stamp lets the cell
+// show through, pictures come out at the ratio asked for, and the fourteen tokens are told
+// apart by silhouette and colour at 64 px and by colour alone on the 10 by 8 squares.
+#include <gtest/gtest.h>
+
+#include <QPainter>
+#include <QTransform>
+
+#include "Catalogue.h"
+#include "ImageCompare.h"
+#include "art/Cards.h"
+#include "art/Dice.h"
+#include "art/Marks.h"
+#include "art/Palette.h"
+#include "art/Render.h"
+#include "art/Tokens.h"
+
+namespace gw::art {
+namespace {
+
+bool near(QColor a, QColor b, int tolerance) {
+    return std::abs(a.red() - b.red()) <= tolerance &&
+           std::abs(a.green() - b.green()) <= tolerance &&
+           std::abs(a.blue() - b.blue()) <= tolerance;
+}
+
+TEST(Colours, CellBandMatchesItsCard) {
+    const std::vector<CellFace> faces = boardFaces();
+    // One street of each district, with where its band lies on its side of the board.
+    const std::pair<int, QPoint> probes[] = {{1, {26, 8}},   {6, {26, 8}},   {11, {74, 25}},
+                                             {16, {74, 25}}, {21, {26, 75}}, {26, {26, 75}},
+                                             {31, {8, 25}},  {37, {8, 25}}};
+    for (const auto& [ring, at] : probes) {
+        const QImage cell = renderImage(boardCellSize(ring), 1, [&](QPainter& p, const QRectF& r) {
+            paintBoardCell(p, r, faces[static_cast<std::size_t>(ring)], boardCellEdge(ring));
+        });
+        const int district = (ring / 10) * 2 + (ring % 10 > 5 ? 2 : 1);
+        const QImage card = renderImage(kPropertyCardSize, 1, [&](QPainter& p, const QRectF& r) {
+            paintPropertyCardFace(p, r, district - 1);
+        });
+        SCOPED_TRACE(ring);
+        EXPECT_TRUE(near(cell.pixelColor(at), colour::districtBand(district), 12));
+        EXPECT_TRUE(near(card.pixelColor(18, 20), colour::districtBand(district), 12));
+    }
+}
+
+TEST(Dice, EachFaceShowsItsPips) {
+    // Count pips as dark blobs along a scan of the whole face.
+    auto darkShare = [](int value) {
+        const QImage face = renderImage(
+            {100, 100}, 1, [value](QPainter& p, const QRectF& r) { paintDieFace(p, r, value); });
+        int dark = 0;
+        for (int y = 10; y < 90; ++y)
+            for (int x = 10; x < 90; ++x)
+                if (face.pixelColor(x, y).lightness() < 90) ++dark;
+        return dark;
+    };
+    int previous = 0;
+    for (int v = 1; v <= 6; ++v) {
+        const int dark = darkShare(v);
+        EXPECT_GT(dark, previous) << "face " << v;
+        previous = dark;
+    }
+}
+
+TEST(Marks, SideHotelIsTheUprightOneTurned) {
+    const QImage upright =
+        renderImage({12, 21}, 2, [](QPainter& p, const QRectF& r) { paintHotel(p, r); });
+    const QImage side =
+        renderImage({21, 12}, 2, [](QPainter& p, const QRectF& r) { paintHotel(p, r); });
+    const QImage turned = upright.transformed(QTransform().rotate(90));
+    EXPECT_LT(test::meanDifference(turned, side), 3.0);
+    EXPECT_GT(test::meanDifference(upright.transformed(QTransform().rotate(-90)), side), 10.0);
+}
+
+TEST(Marks, MortgageStampIsRedAndLetsTheCellShowThrough) {
+    for (QSize size : {QSize(29, 42), QSize(42, 29)}) {
+        const QImage stamp =
+            renderImage(size, 1, [](QPainter& p, const QRectF& r) { paintMortgageStamp(p, r); });
+        int opaque = 0, reddish = 0, covered = 0;
+        for (int y = 0; y < stamp.height(); ++y)
+            for (int x = 0; x < stamp.width(); ++x) {
+                const QColor c = stamp.pixelColor(x, y);
+                if (c.alpha() == 255) ++opaque;
+                if (c.alpha() > 0) ++covered;
+                if (c.alpha() > 100 && c.red() > c.green() + 60) ++reddish;
+            }
+        EXPECT_EQ(opaque, 0);
+        EXPECT_GT(reddish, 40);
+        EXPECT_LT(covered, size.width() * size.height() * 3 / 4);
+    }
+}
+
+TEST(Render, PixmapCarriesItsRatio) {
+    const QPixmap pm =
+        renderPicture({24, 24}, 2, [](QPainter& p, const QRectF& r) { paintToken(p, r, 3); });
+    EXPECT_EQ(pm.devicePixelRatio(), 2);
+    EXPECT_EQ(pm.size(), QSize(48, 48));
+    EXPECT_EQ(pm.deviceIndependentSize(), QSizeF(24, 24));
+}
+
+std::vector<QImage> tokensAt(QSize size) {
+    std::vector<QImage> images;
+    for (int t = 0; t < kTokenCount; ++t)
+        images.push_back(
+            renderImage(size, 1, [t](QPainter& p, const QRectF& r) { paintToken(p, r, t); }));
+    return images;
+}
+
+void expectPairwiseApart(const std::vector<QImage>& images, double threshold) {
+    for (std::size_t a = 0; a < images.size(); ++a)
+        for (std::size_t b = a + 1; b < images.size(); ++b)
+            EXPECT_GT(test::meanDifference(images[a], images[b]), threshold)
+                << tokenName(static_cast<int>(a)).toStdString() << " and "
+                << tokenName(static_cast<int>(b)).toStdString();
+}
+
+TEST(Tokens, DifferAt64) {
+    expectPairwiseApart(tokensAt({64, 64}), 12);
+}
+
+TEST(Tokens, DifferAtTenByEight) {
+    expectPairwiseApart(tokensAt({10, 8}), 20);
+}
+
+TEST(Tokens, ColoursAreFarApart) {
+    // Distance in a roughly perceptual space: lightness counts twice.
+    for (int a = 0; a < kTokenCount; ++a)
+        for (int b = a + 1; b < kTokenCount; ++b) {
+            const QColor x = tokenColour(a), y = tokenColour(b);
+            const double dr = x.redF() - y.redF(), dg = x.greenF() - y.greenF(),
+                         db = x.blueF() - y.blueF();
+            const double dl = x.lightnessF() - y.lightnessF();
+            EXPECT_GT(std::sqrt(dr * dr + dg * dg + db * db + 2 * dl * dl), 0.25)
+                << tokenName(a).toStdString() << " and " << tokenName(b).toStdString();
+        }
+}
+
+TEST(Tokens, IndexWrapsInsteadOfFailing) {
+    EXPECT_EQ(tokenColour(kTokenCount), tokenColour(0));
+    EXPECT_EQ(tokenName(-1), tokenName(kTokenCount - 1));
+}
+
+}  // namespace
+}  // namespace gw::art
