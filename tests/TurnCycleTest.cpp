@@ -69,21 +69,26 @@ TEST_F(TurnCycle, ThreeDoublesSendToJailWithoutGoMoneyAndEndTheTurn) {
     EXPECT_EQ(ann->getDoubleCount(), 0);
 }
 
+// A failed throw in jail shows its message, then the buttons, then the dice; the third frees
+// and moves.
 TEST_F(TurnCycle, JailThrowsFailTwiceThenTheThirdFailureFreesAndMoves) {
     ann->goToJail();
-    rec.clear();
     for (int attempt = 1; attempt <= 2; ++attempt) {
-        nextThrow(1, 2);
-        board->rollDice();
+        rec.clear();
+        throwAndLand(1, 2);
+        EXPECT_EQ(rec.log, (Lines{"showInfo: Ann, no doubles, stay in jail!",
+                                  "UpdateTurnPlaying(1)", "Showdice(1,2)",
+                                  "showCell(10)",  // the landing on the cell she never left
+                                  "UpdateTurnPlaying(1)"}));
         EXPECT_TRUE(ann->IsInJail());
         EXPECT_EQ(ann->getPosition(), 10);
         EXPECT_EQ(ann->getJailCount(), attempt);
-        EXPECT_TRUE(rec.has("showInfo: Ann, no doubles, stay in jail!"));
-        EXPECT_TRUE(rec.has("UpdateTurnPlaying(1)"));
-        rec.clear();
+        board->endTurn();
+        EXPECT_EQ(&board->getCurrPlayer(), bob);
+        board->endTurn();  // Bob on Go ends his turn
     }
-    nextThrow(1, 2);
-    board->rollDice();
+    rec.clear();
+    throwAndLand(1, 2);
     EXPECT_TRUE(rec.has("showInfo: Ann, no doubles, stay in jail!"));
     EXPECT_FALSE(ann->IsInJail());
     EXPECT_EQ(ann->getJailCount(), 0);
@@ -215,25 +220,6 @@ TEST_F(TurnCycle, ADoubleThatEndsInJailGivesNoFurtherThrow) {
         board->endTurn();  // Bob on Go ends his turn: Ann's next one starts in jail
         ASSERT_EQ(&board->getCurrPlayer(), ann);
     }
-}
-
-TEST_F(TurnCycle, AFailedThrowInJailShowsItsMessageThenTheButtonsThenTheDice) {
-    ann->goToJail();
-    rec.clear();
-    throwAndLand(1, 2);
-    const Lines expected = {
-        "showInfo: Ann, no doubles, stay in jail!",
-        "UpdateTurnPlaying(1)",
-        "Showdice(1,2)",
-        "showCell(10)",  // the landing on the cell she never left
-        "UpdateTurnPlaying(1)",
-    };
-    EXPECT_EQ(rec.log, expected);
-    EXPECT_EQ(ann->getJailCount(), 1);
-    EXPECT_EQ(ann->getPosition(), 10);
-    board->endTurn();
-    EXPECT_EQ(&board->getCurrPlayer(), bob);
-    EXPECT_TRUE(ann->IsInJail());
 }
 
 }  // namespace

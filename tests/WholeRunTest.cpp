@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whole runs of the program by clicks: computers playing to the end, the end window, a new
-// game, About, and the end of the program from inside a wait.
+// game, and the end of the program from inside a wait.
 #include "RunFixture.h"
 #include "windows/CellInfoWindow.h"
 #include "windows/JFLCardWindow.h"
@@ -85,18 +85,6 @@ TEST_F(WholeRun, ExitInsideAComputersCardWaitStopsTheRunAndEndsTheProgram) {
     const int waits = rec.waits;
     click([&] { main().rollDice_Click(); });  // nothing runs after the end
     EXPECT_EQ(rec.waits, waits);
-}
-
-TEST_F(WholeRun, AboutShowsBesideTheBoardAndOkHidesIt) {
-    addPlayer("Ann", 0);
-    addPlayer("Bob", 1);
-    letsStart();
-    click([&] { main().About_Click(); });
-    EXPECT_TRUE(run->about().isVisible());
-    EXPECT_TRUE(main().isVisible());
-    EXPECT_EQ(controlsOf(run->about())["Label4"], "Implementation Team");
-    click([&] { run->about().Command1_Click(); });
-    EXPECT_FALSE(run->about().isVisible());
 }
 
 }  // namespace
