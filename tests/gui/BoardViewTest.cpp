@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The board as drawn and as read. To a screen reader: forty buttons named as the cells print,
-// lying where the cells lie at any size, whose press does what a click on the cell does. Drawn
-// into a picture twice the size, as on a high-density screen, a die comes out as sharp as one
-// painted there directly. At its busiest (six players, every buyable cell owned, a third
-// mortgaged, a third with four hotels, six tokens on a cell) the marks lie on the band facing
-// the centre and past it, so no cell's name is covered; that picture is written at 1x and 2x.
+// The board as drawn and as read, at every size. To a screen reader: forty buttons named as
+// the cells print, lying where the cells lie, whose press does what a click on the cell does.
+// At other sizes everything stands at its design place times one scale, so a click at the
+// scaled centre of Roll Dice, of a cell and of a card's button reaches it, and a window of
+// another shape keeps the proportions. Drawn at twice the size a die is as sharp as one
+// painted there. At its busiest (six players, every buyable cell owned, a third mortgaged, a
+// third with four hotels, six tokens on a cell) the marks leave every cell's name clear.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QAccessibleActionInterface>
+#include <QAction>
 #include <QPainter>
 #include <algorithm>
 #include <cstdlib>
@@ -249,6 +252,81 @@ TEST(CrowdedBoard, TheWorstCaseHasEveryMarkAndSixTokensOnACell) {
     EXPECT_GE(fullStreets, 6);
     EXPECT_EQ(onSixteen, kMaxPlayers);
     savePictures(crowded.program().mainView(), "crowded-side");
+}
+
+// Clicks the window where a point of the design lands at the window's scale, on whatever
+// widget is there, and returns that widget.
+QWidget* clickAtDesignPoint(view::MainWindowView& main, QPointF design) {
+    QWidget* client = main.board().parentWidget();
+    const QPoint at = (design * main.scale()).toPoint();
+    QWidget* hit = client->childAt(at);
+    if (hit) QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(client, at));
+    return hit;
+}
+
+class Zoom : public ::testing::TestWithParam<int> {};
+
+TEST_P(Zoom, ClicksAtScaledPlacesReachRollDiceACardButtonAndACell) {
+    auto random = std::make_unique<ScriptedRandom>(std::vector<double>{}, 7);
+    ScriptedRandom& scripted = *random;
+    GuiRun gui(std::move(random));
+    gui.seatAnnAndAComputer();
+    view::MainWindowView& main = gui.program->mainView();
+    const qreal scale = GetParam() / 100.0;
+    main.zoomTo(scale);
+    gui.settle();
+    ASSERT_NEAR(main.scale(), scale, 0.01);
+    const player& ann = gui.run.board().getCurrPlayer();
+    ASSERT_FALSE(ann.isComputer2());
+
+    // Roll Dice, by the centre of its place in twips: a throw of 1 and 2 from Go lands on
+    // the free street of cell 3, whose card offers it.
+    const Integer landing = static_cast<Integer>((ann.getPosition() + 3) % 40);
+    scripted.pushFaces({1, 2});
+    const QPointF rollDice((1440 + 1095 / 2.0) / 15, (1560 + 495 / 2.0) / 15);
+    const QWidget* hit = clickAtDesignPoint(main, rollDice);
+    EXPECT_EQ(hit, main.controls().button("rollDice"));
+    gui.settle();
+    EXPECT_EQ(ann.getPosition(), landing);
+    ASSERT_TRUE(gui.run.windows().cellInfo.isVisible());
+
+    // The card's Forget button, at its centre.
+    view::CellInfoView& card = gui.program->propertyCard();
+    QAbstractButton* forget = card.controls().button("forget");
+    ASSERT_TRUE(forget && forget->isVisibleTo(&card) && forget->isEnabled());
+    clickOn(*forget);
+    gui.settle();
+    EXPECT_FALSE(gui.run.windows().cellInfo.isVisible());
+
+    // A street across the board: its card opens for information.
+    hit = clickAtDesignPoint(main, view::cellRect(39).center());
+    gui.settle();
+    EXPECT_EQ(hit, &main.board());
+    EXPECT_TRUE(gui.run.windows().cellInfo.isVisible());
+    EXPECT_EQ(gui.run.windows().cellInfo.cardId(), 39);
+    savePictures(main, "zoom-" + std::to_string(GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(AtTwoSizes, Zoom, ::testing::Values(150, 75));
+
+TEST(ZoomWindow, KeepsItsProportionsWithTheBoardInTheMiddleAndHasAViewMenu) {
+    GuiRun gui(std::make_unique<SeededRandom>(4));
+    gui.seatAnnAndAComputer();
+    view::MainWindowView& main = gui.program->mainView();
+    main.action("Zoom200").trigger();
+    gui.settle();
+    EXPECT_NEAR(main.scale(), 2.0, 0.01);
+    main.action("Zoom100").trigger();
+    gui.settle();
+    EXPECT_NEAR(main.scale(), 1.0, 0.01);
+    // Wider than tall: the height sets the scale, the board stands centred.
+    main.resize(1400, main.height());
+    gui.settle();
+    EXPECT_NEAR(main.scale(), 1.0, 0.01);
+    const QWidget* client = main.board().parentWidget();
+    const QWidget* stage = main.centralWidget();
+    EXPECT_NEAR(client->x(), (stage->width() - client->width()) / 2, 1);
+    EXPECT_GE(main.screenFit(), 0.1);
 }
 
 }  // namespace
