@@ -8,7 +8,6 @@
 #include "RunFixture.h"
 #include "windows/GameStory.h"
 #include "windows/JFLCardWindow.h"
-#include "windows/TradingCardWindow.h"
 
 namespace gw::test {
 namespace {
@@ -141,7 +140,7 @@ TEST_F(GameStoryTest, AScriptedGameOfPurchasesRentAndATrade) {
 
     // Bob buys Saint-Jacques from Ann for $180 on the trading card.
     askFor(3, "180");
-    click([&] { windows().trading.doneDeal_Click(); });
+    doneDeal();
     ASSERT_EQ(board().propertyAt(3)->getProp().getOwners(), &seat(1));
     throwAndPass(1, 2);  // Bob from 6 to Centre (9), let go
 

@@ -13,7 +13,6 @@
 #include "Monkey.h"
 #include "MonkeyOptions.h"
 #include "RunFixture.h"
-#include "windows/TradingCardWindow.h"
 #include "windows/Windows.h"
 
 namespace gw::test {
@@ -102,7 +101,7 @@ TEST_F(Books, BalanceASaleAtATypedSumAndAMortgageClickedInsideAWalk) {
 
     // Bob offers 7 for it and Ann takes it.
     askFor(3, "7");
-    click([&] { windows().trading.doneDeal_Click(); });
+    doneDeal();
     ASSERT_EQ(board().propertyAt(3)->getProp().getOwners(), &seat(1));
 
     // Bob is put on cell 34 and throws past Go; while his token walks he mortgages what he

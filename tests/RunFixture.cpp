@@ -37,4 +37,8 @@ void RunFixture::askFor(Integer cellId, const std::string& sum) {
     click([&] { windows().trading.wantIt_Click(); });
 }
 
+void RunFixture::doneDeal() {
+    click([&] { windows().trading.doneDeal_Click(); });
+}
+
 }  // namespace gw::test

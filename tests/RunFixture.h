@@ -122,6 +122,8 @@ protected:
     // The player to play asks for another's cell on the trading card: the cell's card, Trade,
     // the sum typed, I Want It.
     void askFor(Integer cellId, const std::string& sum);
+    // The owner's Done Deal on the trading card.
+    void doneDeal();
     Lines buttons() const {
         const MainWindow& m = run->mainWindow();
         return shown(
