@@ -120,6 +120,21 @@ TEST_F(ClickHoles, PayRentOnACardWhoseCellChangedHandsPaysNeitherOwner) {
     EXPECT_EQ(seat(2).getBalance(), 1500 - rent);
 }
 
+// Trade on a card shown while Ann owned the street, after she sold it to the one looking:
+// no deal opens with a seller who no longer owns it.
+TEST_F(ClickHoles, TradeOnACardWhoseCellChangedHandsOpensNoDeal) {
+    ASSERT_NO_FATAL_FAILURE(annOwnsSaintJacques());
+    askFor(3, "150");
+    click([&] { main().cell_Click(3); });  // Bob looks at the street again
+    ASSERT_TRUE(cardOffers("trade"));
+    doneDeal();
+    ASSERT_EQ(ownerOf3(), 1);
+    onCard("trade");
+    EXPECT_FALSE(trading().isVisible());
+    EXPECT_EQ(seat(0).getBalance(), 1400 + 150);
+    EXPECT_EQ(seat(1).getBalance(), 1500 - 150);
+}
+
 TEST_F(ClickHoles, AHumanInDebtWithNothingToSellIsOfferedBankruptcy) {
     seatThree();
     seat(0).debit(1400);  // Ann is down to 100, owning nothing
