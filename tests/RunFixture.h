@@ -108,7 +108,6 @@ protected:
     CellInfoWindow& card() { return windows().cellInfo; }
     bool cardUp() const { return byName::isUp(run->windows().cellInfo); }
     Integer cardOpt() const { return byName::opt(run->windows().cellInfo); }
-    Lines cardButtons() const { return byName::buttons(run->windows().cellInfo); }
     bool cardOffers(std::string_view b) const { return byName::offers(run->windows().cellInfo, b); }
     void onCard(std::string_view button) {
         click([&] { byName::press(card(), button); });
