@@ -9,6 +9,7 @@
 #include <memory>
 #include <numeric>
 #include <sstream>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -50,6 +51,20 @@ inline Lines shown(const std::string& names, std::initializer_list<const Control
     }
     return on;
 }
+
+// The property card read and pressed by the names of its buttons ("buy", "forget", "payRent",
+// "trade", "buyHotel", "sellHotel", "Mortgage(0)", "Mortgage(1)", "Unmortgage", "Ok(0)",
+// "Ok(1)", and "close" for its close box), kept out of line so that a test that needs no more
+// does not rebuild with every change to the card.
+namespace byName {
+bool isUp(const CellInfoWindow& card);
+Integer opt(const CellInfoWindow& card);
+Integer cell(const CellInfoWindow& card);
+// The buttons on show, in the card's order; a closed one carries a trailing '*'.
+Lines buttons(const CellInfoWindow& card);
+bool offers(const CellInfoWindow& card, std::string_view button);
+void press(CellInfoWindow& card, std::string_view button);
+}  // namespace byName
 
 class GameFixture : public ::testing::Test {
 protected:
@@ -110,10 +125,11 @@ protected:
     }
     CellInfoWindow& card() { return windows.cellInfo; }
     TradingCardWindow& trading() { return windows.trading; }
-    // The two uses of the property card that most tests need, kept out of line so that
-    // those tests do not rebuild with every change to the card.
-    bool cardUp() const;
-    void forgetCard();
+    bool cardUp() const { return byName::isUp(windows.cellInfo); }
+    Integer cardOpt() const { return byName::opt(windows.cellInfo); }
+    Integer cardCell() const { return byName::cell(windows.cellInfo); }
+    Lines cardButtons() const { return byName::buttons(windows.cellInfo); }
+    void onCard(std::string_view button) { byName::press(windows.cellInfo, button); }
 
     Recorder rec;
     Windows windows{rec, rec, rec};

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The main window's buttons, message line and board marks as the rules drive them, and
-// the clicks of a human through it.
+// The main window's message line, dice, tokens and board marks as the rules drive them, and
+// the clicks of a human through it; its turn buttons are checked turn by turn with clicks.
 #include <functional>
 
 #include "GameFixture.h"
-#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {
@@ -36,10 +35,13 @@ protected:
         for (int s = 0; s < n; ++s) random->push(ScriptedRandom::slot(s, n));  // keep the order
         model.startGame();
     }
-    Lines buttons() const {
-        return shown("rollDice endTurn declareBank pay50Rent useJFLCard",
-                     {&model.rollDice(), &model.endTurn(), &model.declareBank(), &model.pay50Rent(),
-                      &model.useJFLCard()});
+    // The token pictures in the cell's squares, up to the first empty one.
+    std::vector<int> squares(int cellId) const {
+        std::vector<int> shown;
+        for (int s = 0; s < 6 && model.square(cellId, s) != kNoPicture; ++s) {
+            shown.push_back(model.square(cellId, s));
+        }
+        return shown;
     }
     ClickingDelay delay;
     MainWindow model{rec, delay};
@@ -47,7 +49,6 @@ protected:
 
 TEST_F(Window, AHumanFirstIsAskedToRollThenEndTurnHandsOverAndWritesTheTurnLine) {
     start({false, false});
-    EXPECT_EQ(buttons(), (Lines{"rollDice", "endTurn*"}));
     EXPECT_EQ(model.Label2(), "P0");
     EXPECT_EQ(model.turnBar(), 0);
     EXPECT_EQ(model.playToken(), 4);
@@ -58,18 +59,16 @@ TEST_F(Window, AHumanFirstIsAskedToRollThenEndTurnHandsOverAndWritesTheTurnLine)
     nextThrow(5, 6);  // to Notre-Dame, unowned
     model.rollDice_Click();
     EXPECT_EQ(rec.log.front(), "sound: DICEROLL.wav");
-    EXPECT_EQ(buttons(), (Lines{"rollDice*", "endTurn"}));
     EXPECT_EQ(model.bigToken(0).cell, 11);
     EXPECT_EQ(model.dieFace1(), 5);
     EXPECT_EQ(model.dieFace2(), 6);
     model.endTurn_Click();  // refused: the purchase card was not answered
     EXPECT_EQ(model.Label1(), "P0, its your turn to play.");
     EXPECT_EQ(board->getCurrPlayerIndex(), 0);
-    card().forget_Click();
+    onCard("forget");
     model.endTurn_Click();
     EXPECT_EQ(board->getCurrPlayerIndex(), 1);
     EXPECT_EQ(model.Label1(), "P1, its your turn to play.");
-    EXPECT_EQ(buttons(), (Lines{"rollDice", "endTurn*"}));
 }
 
 TEST_F(Window, ASecondClickOnRollDuringTheAnimationIsDropped) {
@@ -87,89 +86,33 @@ TEST_F(Window, AComputerFirstPlaysUntilAHumanIsCurrent) {
     EXPECT_TRUE(model.rollDice().isOpen());
 }
 
-TEST_F(Window, JailButtonsFollowBalanceAndCard) {
-    start({false, false});
-    player& p = board->getCurrPlayer();
-    p.goToJail();
-    setBalance(p, 49);
-    model.UpdateTurnPlaying(TurnButtons::Roll);  // a later turn: to throw, in jail
-    model.showInJail();
-    const auto jailButtons = [this] {
-        return shown("pay50Rent useJFLCard", {&model.pay50Rent(), &model.useJFLCard()});
-    };
-    EXPECT_EQ(jailButtons(), Lines{"pay50Rent*"});
-    EXPECT_EQ(model.Label1(), "P0, you are in jail. Please roll a double or pay 50 to get out!");
-    setBalance(p, 50);
-    p.setHasGoJFC(true);
-    model.showInJail();
-    EXPECT_EQ(jailButtons(), (Lines{"pay50Rent", "useJFLCard"}));
-    nextThrow(1, 2);
-    model.pay50Rent_Click();  // leaves and throws in the same click, without the dice sound
-    EXPECT_FALSE(p.IsInJail());
-    EXPECT_EQ(p.getPosition(), 13);
-    EXPECT_FALSE(rec.has("sound: DICEROLL.wav"));
-    EXPECT_FALSE(model.pay50Rent().visible);
-}
-
-TEST_F(Window, ARentShortfallShowsOnlyBankruptcyWhichEndsATwoPlayerGame) {
-    start({false, false});
-    player& p0 = board->getCurrPlayer();
-    give(*board->getPlayer(1), {39});
-    setBalance(p0, 40);
-    land(p0, 39);  // the rent card: 50 due
-    EXPECT_TRUE(rec.has("showInfo: You cannot pay the rent, you must get $10"));
-    EXPECT_EQ(buttons(), Lines{"declareBank"});
-    p0.credit(10);  // the test of the rent, not the sign of the balance, decides
-    EXPECT_TRUE(model.endTurn().visible);
-    EXPECT_FALSE(model.declareBank().visible);
-    EXPECT_FALSE(model.declareBank().enabled);
-
-    p0.debit(1);
-    ASSERT_TRUE(model.declareBank().isOpen());
-    model.declareBank_Click();
-    EXPECT_TRUE(p0.isBankrupt2());
-    EXPECT_TRUE(model.gameEndShown());
-    EXPECT_FALSE(model.isVisible());
-    EXPECT_FALSE(model.bigToken(0).visible);
-    EXPECT_EQ(model.panel(0).balance.caption, "Bankrupt");
-    EXPECT_TRUE(rec.has("sound: Bankrupt.wav"));
-}
-
-TEST_F(Window, ADebtOfAComputerClosesEveryButton) {
-    player& cpu = addComputer("Hal");
-    addHuman("Ann");
-    placeAt(cpu, 20);  // a free stop: the sign of the balance decides
-    model.showNegBalance(true);
-    EXPECT_EQ(buttons(), (Lines{"endTurn*", "declareBank*"}));
-}
-
 TEST_F(Window, CellClicksOpenCardsOnlyOnBuyableCellsAndOnlyForAHuman) {
     start({false, false});
     player& p0 = board->getCurrPlayer();
     model.cell_Click(10);
     model.cell_Click(4);
-    EXPECT_FALSE(card().isVisible());
+    EXPECT_FALSE(cardUp());
     model.cell_Click(39);
-    EXPECT_TRUE(card().isVisible());
-    EXPECT_EQ(card().cardOpt(), kOptInfo);
-    card().Ok_Click(0);
+    EXPECT_TRUE(cardUp());
+    EXPECT_EQ(cardOpt(), kOptInfo);
+    onCard("Ok(0)");
 
     // On the cell under the token before the roll, the landing runs again.
     give(*board->getPlayer(1), {1});
     placeAt(p0, 1);
     p0.setDidAction(false);
     model.cell_Click(1);
-    EXPECT_EQ(card().cardOpt(), kOptRent);
-    card().payRent_Click();
+    EXPECT_EQ(cardOpt(), kOptRent);
+    onCard("payRent");
     model.cell_Click(1);
-    EXPECT_EQ(card().cardOpt(), kOptTrade);  // dealt with: the card only, open to a trade
-    card().Ok_Click(0);
+    EXPECT_EQ(cardOpt(), kOptTrade);  // dealt with: the card only, open to a trade
+    onCard("Ok(0)");
 
     p0.goToJail();
     model.UpdateTurnPlaying(TurnButtons::Roll);
     model.showInfo("");
     model.cell_Click(5);
-    EXPECT_TRUE(card().isVisible());
+    EXPECT_TRUE(cardUp());
     EXPECT_TRUE(model.pay50Rent().visible);  // the jail buttons and message come back
     EXPECT_EQ(model.Label1(), "P0, you are in jail. Please roll a double or pay 50 to get out!");
 }
@@ -195,6 +138,34 @@ TEST_F(Window, BoardMarksFollowTheRules) {
     setBalance(p0, -50);
     model.UpdatePlayers();
     EXPECT_EQ(model.panel(0).balance.caption, "-50");
+}
+
+// A token leaves the squares of the cell it walks away from and fills those it lands on.
+TEST_F(Window, AThrowRedrawsTheCellLeftWithoutTheToken) {
+    using Tokens = std::vector<int>;
+    start({false, false});
+    player& p0 = board->getCurrPlayer();
+    nextThrow(1, 2);
+    board->playTurn();                 // Go to Saint-Jacques
+    EXPECT_EQ(squares(0), Tokens{5});  // P1 stays on Go
+    EXPECT_EQ(squares(3), Tokens{4});
+
+    onCard("forget");
+    board->endTurn();
+    nextThrow(2, 1);
+    board->playTurn();  // P1 joins her
+    EXPECT_EQ(squares(0), Tokens{});
+    EXPECT_EQ(squares(3), (Tokens{4, 5}));
+
+    onCard("forget");
+    board->endTurn();
+    placeAt(p0, 38);
+    board->getCell(38)->display();
+    ASSERT_EQ(squares(38), Tokens{4});
+    nextThrow(2, 3);
+    board->playTurn();  // round Go, back to Saint-Jacques
+    EXPECT_EQ(squares(38), Tokens{});
+    EXPECT_EQ(squares(3), (Tokens{4, 5}));
 }
 
 TEST_F(Window, AWalkTakesOneStepMoreThanItsCellsAndABackwardCallNone) {

@@ -10,14 +10,6 @@ namespace {
 
 using Buttons = Lines;
 
-Buttons buttons(const CellInfoWindow& c) {
-    return shown(
-        "buy forget payRent trade buyHotel sellHotel "
-        "Mortgage(0) Mortgage(1) Unmortgage Ok(0) Ok(1)",
-        {&c.buy(), &c.forget(), &c.payRent(), &c.trade(), &c.buyHotel(), &c.sellHotel(),
-         &c.Mortgage(0), &c.Mortgage(1), &c.Unmortgage(), &c.Ok(0), &c.Ok(1)});
-}
-
 class PropertyCard : public TwoHumans {
 protected:
     ~PropertyCard() override { rec.model = nullptr; }
@@ -36,7 +28,7 @@ TEST_F(PropertyCard, InformationCardPrintsEachValueInItsLabelAndNoButton) {
     click(*ann, 1);
     EXPECT_TRUE(card().isVisible());
     EXPECT_EQ(card().cardOpt(), kOptInfo);
-    EXPECT_EQ(buttons(card()), Buttons{});
+    EXPECT_EQ(cardButtons(), Buttons{});
     // Priced 90: rent 9, hotel rents 45/108/180/225, mortgage 45, hotel 54.
     const Lines labels = {"Saint-Antoine", "$90",  "",     "$9",  "$45",
                           "$108",          "$180", "$225", "$45", "$54"};
@@ -81,7 +73,7 @@ TEST_F(PropertyCard, PurchaseCardOpensBuyToAHumanWhoCanPayAndForgetOrBuyDealsWit
     land(*ann, 1);
     EXPECT_EQ(card().cardOpt(), kOptBuy);
     EXPECT_EQ(card().label(3), "");
-    EXPECT_EQ(buttons(card()), (Buttons{"buy*", "forget"}));
+    EXPECT_EQ(cardButtons(), (Buttons{"buy*", "forget"}));
     card().forget_Click();
     EXPECT_EQ(prop(1).getOwners(), nullptr);
     EXPECT_EQ(ann->getBalance(), 89);
@@ -89,13 +81,13 @@ TEST_F(PropertyCard, PurchaseCardOpensBuyToAHumanWhoCanPayAndForgetOrBuyDealsWit
     EXPECT_FALSE(card().isVisible());
     click(*ann, 1);  // still on it, but the landing is over: no second chance to buy
     EXPECT_EQ(card().cardOpt(), kOptInfo);
-    EXPECT_EQ(buttons(card()), Buttons{});
+    EXPECT_EQ(cardButtons(), Buttons{});
     card().close();
 
     ann->setDidAction(false);  // a landing anew
     setBalance(*ann, 90);
     land(*ann, 1);
-    EXPECT_EQ(buttons(card()), (Buttons{"buy", "forget"}));
+    EXPECT_EQ(cardButtons(), (Buttons{"buy", "forget"}));
     rec.clear();
     card().buy_Click();
     EXPECT_EQ(prop(1).getOwners(), ann);
@@ -112,7 +104,7 @@ TEST_F(PropertyCard, RentCardOpensPayOnTheBareRentAndChargesTheRentDueBeyondTheC
     setBalance(*ann, 119);
     land(*ann, 3);
     EXPECT_EQ(card().cardOpt(), kOptRent);
-    EXPECT_EQ(buttons(card()), Buttons{"payRent"});
+    EXPECT_EQ(cardButtons(), Buttons{"payRent"});
     EXPECT_EQ(card().payRent().caption, "Pay  120");
     EXPECT_EQ(rec.only({"showInfo"}), Lines{"showInfo: Ann you owe $120"});
     EXPECT_FALSE(rec.has("showNegBalance(true)"));
@@ -127,14 +119,14 @@ TEST_F(PropertyCard, RentCardOneDollarShortClosesPayAndNamesTheShortfall) {
     give(*bob, {39});  // rent 50
     setBalance(*ann, 49);
     land(*ann, 39);
-    EXPECT_EQ(buttons(card()), Buttons{"payRent*"});
+    EXPECT_EQ(cardButtons(), Buttons{"payRent*"});
     EXPECT_EQ(rec.only({"showInfo"}), Lines{"showInfo: You cannot pay the rent, you must get $1"});
     EXPECT_EQ(rec.log.back(), "showNegBalance(true)");
 }
 
 TEST_F(PropertyCard, ComputerCardsShowTheirButtonsClosedAndNoMortgage) {
     land(*cal, 1);
-    EXPECT_EQ(buttons(card()), (Buttons{"buy*", "forget*"}));
+    EXPECT_EQ(cardButtons(), (Buttons{"buy*", "forget*"}));
     rec.clear();
     card().computerThink();
     EXPECT_FALSE(card().isVisible());
@@ -143,15 +135,15 @@ TEST_F(PropertyCard, ComputerCardsShowTheirButtonsClosedAndNoMortgage) {
 
     give(*bob, {39});
     land(*cal, 39);
-    EXPECT_EQ(buttons(card()), Buttons{"payRent*"});
+    EXPECT_EQ(cardButtons(), Buttons{"payRent*"});
     EXPECT_EQ(rec.only({"showInfo"}), Lines{});
 
     give(*cal, {1, 3, 5});
     click(*cal, 1);
-    EXPECT_EQ(buttons(card()), (Buttons{"buyHotel*", "sellHotel*", "Ok(1)"}));
+    EXPECT_EQ(cardButtons(), (Buttons{"buyHotel*", "sellHotel*", "Ok(1)"}));
     cal->mortgageProp(5);
     click(*cal, 5);
-    EXPECT_EQ(buttons(card()), Buttons{"Ok(0)"});
+    EXPECT_EQ(cardButtons(), Buttons{"Ok(0)"});
 }
 
 TEST_F(PropertyCard, OwnCellShowsTheHotelRowOnlyWhenAHotelCanBeBuiltOrSold) {
@@ -159,42 +151,42 @@ TEST_F(PropertyCard, OwnCellShowsTheHotelRowOnlyWhenAHotelCanBeBuiltOrSold) {
     placeAt(*ann, 39);  // the token's place plays no part
     click(*ann, 1);
     EXPECT_EQ(card().cardOpt(), kOptOwn);
-    EXPECT_EQ(buttons(card()), (Buttons{"buyHotel", "sellHotel*", "Mortgage(1)", "Ok(1)"}));
+    EXPECT_EQ(cardButtons(), (Buttons{"buyHotel", "sellHotel*", "Mortgage(1)", "Ok(1)"}));
     for (Integer cellId : {5, 12}) {  // a metro and a utility never have one
         click(*ann, cellId);
-        EXPECT_EQ(buttons(card()), (Buttons{"Mortgage(0)", "Ok(0)"})) << cellId;
+        EXPECT_EQ(cardButtons(), (Buttons{"Mortgage(0)", "Ok(0)"})) << cellId;
     }
     setBalance(*ann, 53);  // a hotel costs 54
     click(*ann, 1);
-    EXPECT_EQ(buttons(card()), (Buttons{"Mortgage(0)", "Ok(0)"}));
+    EXPECT_EQ(cardButtons(), (Buttons{"Mortgage(0)", "Ok(0)"}));
 
     setBalance(*ann, 1500);
     ann->mortgageProp(1);
     click(*ann, 3);  // a mortgaged neighbour does not stop the building
-    EXPECT_EQ(buttons(card()), (Buttons{"buyHotel", "sellHotel*", "Mortgage(1)", "Ok(1)"}));
+    EXPECT_EQ(cardButtons(), (Buttons{"buyHotel", "sellHotel*", "Mortgage(1)", "Ok(1)"}));
     click(*ann, 1);  // but the mortgaged street itself takes no hotel
-    EXPECT_EQ(buttons(card()), (Buttons{"Unmortgage", "Ok(0)"}));
+    EXPECT_EQ(cardButtons(), (Buttons{"Unmortgage", "Ok(0)"}));
     setBalance(*ann, 50);  // 45 * 1.1 = 49.5
     click(*ann, 1);
-    EXPECT_EQ(buttons(card()), (Buttons{"Unmortgage", "Ok(0)"}));
+    EXPECT_EQ(cardButtons(), (Buttons{"Unmortgage", "Ok(0)"}));
     setBalance(*ann, 49);
     click(*ann, 1);
-    EXPECT_EQ(buttons(card()), Buttons{"Ok(0)"});
+    EXPECT_EQ(cardButtons(), Buttons{"Ok(0)"});
 
     setBalance(*ann, 1500);
     ann->unmortgageProp(1);
     putHotels(1, 4);
     click(*ann, 1);
-    EXPECT_EQ(buttons(card()), (Buttons{"buyHotel*", "sellHotel", "Ok(1)"}));
+    EXPECT_EQ(cardButtons(), (Buttons{"buyHotel*", "sellHotel", "Ok(1)"}));
     click(*ann, 3);  // the neighbour of a street with hotels may still be mortgaged
-    EXPECT_EQ(buttons(card()), (Buttons{"buyHotel", "sellHotel*", "Mortgage(1)", "Ok(1)"}));
+    EXPECT_EQ(cardButtons(), (Buttons{"buyHotel", "sellHotel*", "Mortgage(1)", "Ok(1)"}));
 }
 
 TEST_F(PropertyCard, AnotherPlayersCellIsOpenToATradeUnlessHotelsOrDebt) {
     give(*bob, {1, 5});
     click(*ann, 5);
     EXPECT_EQ(card().cardOpt(), kOptTrade);
-    EXPECT_EQ(buttons(card()), (Buttons{"trade", "Ok(0)"}));
+    EXPECT_EQ(cardButtons(), (Buttons{"trade", "Ok(0)"}));
     rec.clear();
     card().trade_Click();  // opens the buyer's face
     EXPECT_FALSE(card().isVisible());
@@ -210,12 +202,12 @@ TEST_F(PropertyCard, AnotherPlayersCellIsOpenToATradeUnlessHotelsOrDebt) {
     setBalance(*ann, -1);
     click(*ann, 5);
     EXPECT_EQ(card().cardOpt(), kOptInfo);
-    EXPECT_EQ(buttons(card()), Buttons{});
+    EXPECT_EQ(cardButtons(), Buttons{});
     setBalance(*ann, 1500);
     putHotels(1, 1);
     click(*ann, 1);
     EXPECT_EQ(card().cardOpt(), kOptInfo);
-    EXPECT_EQ(buttons(card()), Buttons{});
+    EXPECT_EQ(cardButtons(), Buttons{});
 }
 
 TEST_F(PropertyCard, HotelButtonsBuildAndSellAtTheHotelCost) {

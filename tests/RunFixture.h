@@ -99,9 +99,30 @@ protected:
     void endTurn() {
         click([&] { main().endTurn_Click(); });
     }
+    void seatAnnAndBob() {
+        addPlayer("Ann", 0);
+        addPlayer("Bob", 1);
+        letsStart();
+    }
+    // The property card by the names of its buttons; see byName.
     CellInfoWindow& card() { return windows().cellInfo; }
+    bool cardUp() const { return byName::isUp(run->windows().cellInfo); }
+    Integer cardOpt() const { return byName::opt(run->windows().cellInfo); }
+    bool cardOffers(std::string_view b) const { return byName::offers(run->windows().cellInfo, b); }
+    void onCard(std::string_view button) {
+        click([&] { byName::press(card(), button); });
+    }
     // A throw whose landing on an unowned cell is let go, then End Turn.
     void throwAndPass(int a, int b);
+    // A throw onto an unowned cell, bought on its card.
+    void buyWhereTheThrowLands(int a, int b);
+    // Types a sum into the trading card as a person does: focus, then keys over the selection.
+    void typeSum(const std::string& digits);
+    // The player to play asks for another's cell on the trading card: the cell's card, Trade,
+    // the sum typed, I Want It.
+    void askFor(Integer cellId, const std::string& sum);
+    // The owner's Done Deal on the trading card.
+    void doneDeal();
     Lines buttons() const {
         const MainWindow& m = run->mainWindow();
         return shown(

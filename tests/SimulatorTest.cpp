@@ -1,14 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The headless simulator: its runs repeat by seed whatever the number of jobs, its
-// summary counts seats in the order of play and turns over finished games only, and its
-// checks name a movement of money that no rule explains.
+// The headless simulator: its runs repeat by seed whatever the number of jobs, its summary
+// counts seats in the order of play and turns over finished games only, a long run of turns
+// does not deepen the call stack; and the determinism signature: the line kept in the
+// repository, its independence of the number of jobs, and a hash of the board that sees every
+// part of the end state.
+//
+// The expected line lives in tests/signature.txt. A deliberate change to the rules
+// changes it; after checking that the change is meant, write it anew with
+//     gildenway-sim --signature > tests/signature.txt
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <map>
+#include <string>
 #include <vector>
 
 #include "LedgerWindow.h"
+#include "Recorder.h"
+#include "Signature.h"
 #include "Simulation.h"
+#include "cells/Street.h"
 #include "game/Board.h"
 #include "windows/Windows.h"
 
@@ -117,6 +132,135 @@ TEST(Simulator, PartsOfARunAddUpToTheWholeAndKeepTheFirstFaults) {
     ASSERT_EQ(whole.faults.size(), sim::Summary::kKeptFaults);
     EXPECT_EQ(whole.faults.front().second, "fault in game 1");
     EXPECT_EQ(whole.faults.back().second, "fault in game 19");
+}
+
+// Counts every wait, and the deepest stack seen at a wait, which sits inside a turn.
+class DepthDelay final : public Delay {
+public:
+    std::uintptr_t deepest = UINTPTR_MAX;
+    void wait(Integer) override {
+        const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+        if (here < deepest) deepest = here;
+    }
+};
+
+TEST(ComputerGame, AHundredThousandTurnsKeepTheStackFlat) {
+    constexpr long kTurns = 100000;
+    NullMainWindow main;
+    SilentSound sound;
+    DepthDelay delay;
+    Windows windows(main, sound, delay);
+    long turns = 0;
+    int finished = 0;
+    std::uintptr_t hookFrame = 0;
+    std::uintptr_t deepestAfterFirstThousand = 0;
+    bool flat = true;
+    for (std::uint64_t seed = 1; turns < kTurns; ++seed) {
+        Board board(windows, std::make_unique<SeededRandom>(seed));
+        board.init();
+        for (int i = 0; i < 6; ++i)
+            board.addPlayer("C" + std::to_string(i), true, static_cast<Integer>(i));
+        board.shufflePlayers();
+        board.setOnTurnPlayed([&] {
+            const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+            if (hookFrame == 0) hookFrame = here;
+            flat = flat && here == hookFrame;
+            if (++turns == 1000) deepestAfterFirstThousand = delay.deepest;
+            return turns < kTurns;
+        });
+        board.playTurn();
+        if (board.countSolvent() > 1) {
+            EXPECT_EQ(turns, kTurns);  // only the cap stops a game
+        } else {
+            ++finished;
+        }
+    }
+    EXPECT_TRUE(flat);
+    // Deeper waits come from nested card landings, never from the number of turns.
+    EXPECT_LT(deepestAfterFirstThousand - delay.deepest, 16u * 1024u);
+    // Six computers end a game in some hundreds of turns: games that never ended, or ended
+    // at once, would show here.
+    EXPECT_GT(finished, kTurns / 2000);
+    EXPECT_LT(finished, kTurns / 100);
+}
+
+std::string expectedLine() {
+    const std::filesystem::path file =
+        std::filesystem::path(__FILE__).parent_path() / "signature.txt";
+    std::ifstream in(file);
+    std::string line;
+    std::getline(in, line);
+    return line;
+}
+
+TEST(Signature, TheFixedGamesEndAsTheKeptLineSays) {
+    const std::string expected = expectedLine();
+    ASSERT_FALSE(expected.empty()) << "tests/signature.txt is missing or empty";
+    const sim::Signature signature = sim::playSignature(1, 2, false);
+    EXPECT_EQ(signature.line(), expected)
+        << "if the rules were changed on purpose: gildenway-sim --signature > "
+           "tests/signature.txt";
+}
+
+TEST(Signature, TheSameSeedGivesTheSameLineWhateverTheJobs) {
+    const sim::Signature one = sim::playSignature(7, 1, true, 10);
+    const sim::Signature three = sim::playSignature(7, 3, true, 10);
+    EXPECT_EQ(one.violations, 0) << one.firstFault;
+    EXPECT_EQ(one.games, 50);
+    EXPECT_EQ(one.line(), three.line());
+    EXPECT_NE(sim::playSignature(8, 1, false, 10).hash, one.hash);
+}
+
+// A board of two players, as new, on which a test changes one thing.
+class Table {
+public:
+    Table() : windows_(rec_, rec_, rec_), board_(windows_, std::make_unique<SeededRandom>(5)) {
+        board_.init();
+        board_.addPlayer("A", true, 0);
+        board_.addPlayer("B", true, 1);
+    }
+    Board& board() { return board_; }
+    player& first() { return *board_.getPlayer(0); }
+
+private:
+    Recorder rec_;
+    Windows windows_;
+    Board board_;
+};
+
+TEST(Signature, TheBoardHashSeesEveryPartOfTheState) {
+    constexpr Integer kStreet = 1;
+    const std::map<std::string, std::function<void(Table&)>> changes{
+        {"as new", [](Table&) {}},
+        {"balance", [](Table& t) { t.first().credit(1); }},
+        {"position", [](Table& t) { t.first().move(10, true); }},
+        {"in jail", [](Table& t) { t.first().goToJail(); }},
+        {"jail card", [](Table& t) { t.first().setHasGoJFC(true); }},
+        {"owner", [](Table& t) { t.first().newlyOwn(*t.board().getCell(kStreet)); }},
+        {"mortgage",
+         [](Table& t) {
+             t.first().newlyOwn(*t.board().getCell(kStreet));
+             t.board().propertyAt(kStreet)->getProp().Mortgage();
+         }},
+        {"hotel",
+         [](Table& t) {
+             t.first().newlyOwn(*t.board().getCell(kStreet));
+             t.board().streetAt(kStreet)->addHotel();
+         }},
+        {"deck order", [](Table& t) { t.board().getJFLDeck().shuffle(); }},
+        {"deck cursor", [](Table& t) { t.board().getJFLDeck().getCard(); }},
+    };
+    std::map<std::uint64_t, std::string> seen;
+    for (const auto& [name, change] : changes) {
+        Table table;
+        change(table);
+        const std::uint64_t hash = sim::stateHash(table.board());
+        const auto [at, isNew] = seen.emplace(hash, name);
+        EXPECT_TRUE(isNew) << name << " hashes as " << at->second;
+        Table again;
+        change(again);
+        EXPECT_EQ(sim::stateHash(again.board()), hash) << name;
+    }
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 #include <tuple>
 
 #include "GameFixture.h"
-#include "windows/CellInfoWindow.h"
 #include "windows/TradingCardWindow.h"
 
 namespace gw::test {
@@ -21,7 +20,7 @@ protected:
     // Ann's face as buyer, opened from the card of the other player's cell.
     void openTrade(Integer cellId) {
         click(*ann, cellId);
-        card().trade_Click();
+        onCard("trade");
     }
     // Types into the box after giving it the focus, as a user does.
     void type(const std::string& keys) {
@@ -196,8 +195,8 @@ TEST_F(Trading, ASaleCarriesTheMortgageAndTheRightToBuild) {
     EXPECT_EQ(ann->getBalance(), 1400);
     EXPECT_EQ(bob->getBalance(), 1750);
     click(*ann, 5);
-    EXPECT_EQ(card().cardOpt(), kOptOwn);
-    EXPECT_TRUE(card().Unmortgage().isOpen());
+    EXPECT_EQ(cardOpt(), kOptOwn);
+    EXPECT_TRUE(byName::offers(card(), "Unmortgage"));
 
     ASSERT_TRUE(bob->canBuild(1));
     offer(3, "200");

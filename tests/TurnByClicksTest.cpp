@@ -3,9 +3,7 @@
 // property card, a trade between two humans that asks for more, both ways out of jail, and
 // the buttons of the main window in every situation of a turn.
 #include "RunFixture.h"
-#include "windows/CellInfoWindow.h"
 #include "windows/TradingCardWindow.h"
-#include "windows/Windows.h"
 #include "windows/taxCellWindow.h"
 
 namespace gw::test {
@@ -17,25 +15,6 @@ protected:
     TurnByClicks()
         : RunFixture({1, 0, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19}) {}
 
-    void seatAnnAndBob() {
-        addPlayer("Ann", 0);
-        addPlayer("Bob", 1);
-        letsStart();
-    }
-    void buyWhereTheThrowLands(int a, int b) {
-        nextThrow(a, b);
-        roll();
-        ASSERT_TRUE(card().buy().isOpen());
-        click([&] { card().buy_Click(); });
-    }
-    // Types a sum into the trading card as a person does: focus, then keys over the selection.
-    void typeSum(const std::string& digits) {
-        TradingCardWindow& trading = windows().trading;
-        click([&] {
-            trading.amount_GotFocus();
-            for (char key : digits) trading.typeKey(key);
-        });
-    }
     int soundsOf(SoundEffect effect) const {
         const std::string file(soundFile(effect));
         return static_cast<int>(std::count_if(rec.log.begin(), rec.log.end(), [&](const auto& l) {
@@ -73,9 +52,8 @@ TEST_F(TurnByClicks, ATaxTooHighIsRaisedByMortgagingFromThePropertyCardThenPaid)
               (Lines{"rollDice*", "endTurn"}));  // the throw's end clears the debt layout
 
     click([&] { main().cell_Click(25); });  // her station: the card offers a mortgage
-    ASSERT_TRUE(card().isVisible());
-    ASSERT_TRUE(card().Mortgage(0).isOpen());
-    click([&] { card().Mortgage_Click(0); });
+    ASSERT_TRUE(cardOffers("Mortgage(0)"));
+    onCard("Mortgage(0)");
     EXPECT_EQ(seat(0).getBalance(), 180);
     EXPECT_TRUE(board().propertyAt(25)->getProp().isMortgaged2());
 
@@ -92,29 +70,26 @@ TEST_F(TurnByClicks, ATaxTooHighIsRaisedByMortgagingFromThePropertyCardThenPaid)
 
 TEST_F(TurnByClicks, ACellDealtWithBeforeTheThrowLeavesTheLandingStillDue) {
     seatAnnAndBob();
-    nextThrow(1, 2);  // Ann to Saint-Jacques, which she leaves to the bank
-    roll();
-    click([&] { card().forget_Click(); });
-    endTurn();
+    throwAndPass(1, 2);           // Ann to Saint-Jacques, which she leaves to the bank
     buyWhereTheThrowLands(2, 4);  // Bob buys cell 6
     endTurn();
 
     // Before her throw Ann clicks the cell under her token: its card comes up again and
     // she leaves it again, which deals with that cell.
     click([&] { main().cell_Click(3); });
-    ASSERT_TRUE(card().forget().isOpen());
-    click([&] { card().forget_Click(); });
+    ASSERT_TRUE(cardOffers("forget"));
+    onCard("forget");
     ASSERT_TRUE(seat(0).getDidAction());
 
     nextThrow(1, 2);  // on to Bob's street: its rent is due all the same
     roll();
-    ASSERT_TRUE(card().payRent().isOpen());
+    ASSERT_TRUE(cardOffers("payRent"));
     endTurn();
     EXPECT_EQ(main().Label1(), "Ann, its your turn to play.");
     EXPECT_EQ(board().getCurrPlayerIndex(), 0);
-    ASSERT_TRUE(card().payRent().isOpen());
+    ASSERT_TRUE(cardOffers("payRent"));
     const Integer before = seat(1).getBalance();
-    click([&] { card().payRent_Click(); });
+    onCard("payRent");
     EXPECT_GT(seat(1).getBalance(), before);
     EXPECT_EQ(seat(0).getBalance() + seat(1).getBalance(), 1500 + before);
     endTurn();
@@ -128,12 +103,7 @@ TEST_F(TurnByClicks, TwoHumansTradeAfterTheOwnerAsksForMore) {
 
     TradingCardWindow& trading = windows().trading;
     auto bobAsks = [&](const std::string& sum) {
-        click([&] { main().cell_Click(3); });
-        ASSERT_TRUE(card().trade().isOpen());
-        click([&] { card().trade_Click(); });
-        ASSERT_EQ(trading.face(), TradeFace::Buyer);
-        typeSum(sum);
-        click([&] { trading.wantIt_Click(); });
+        askFor(3, sum);
         ASSERT_EQ(trading.face(), TradeFace::Owner);
         for (const Control* c : {&trading.doneDeal(), &trading.wantMore(), &trading.forgetIt()}) {
             EXPECT_TRUE(c->isOpen());
@@ -187,26 +157,33 @@ TEST_F(TurnByClicks, TheJailCardTakesAnnOutAndTheThrowFollowsAtOnce) {
     EXPECT_FALSE(main().useJFLCard().visible);
 }
 
+// Pay 50 is closed on 49 and open on exactly 50, which it leaves at 0.
 TEST_F(TurnByClicks, PayingFiftyFromExactlyFiftyLeavesJailAndThrows) {
     seatAnnAndBob();
     throwAndPass(3, 3);  // Wellington, and Ann again
     throwAndPass(4, 4);  // Saint-Paul
     throwAndPass(5, 5);  // the third double: jail
     ASSERT_TRUE(seat(0).IsInJail());
-    nextThrow(1, 2);
-    roll();  // Bob
-    click([&] {
-        if (card().forget().isOpen()) card().forget_Click();
-    });
-    seat(0).debit(static_cast<Integer>(seat(0).getBalance() - 50));
-    endTurn();
+    for (const int balance : {49, 50}) {  // set in Bob's turn, before hers
+        nextThrow(1, 2);
+        roll();
+        if (cardOffers("forget")) onCard("forget");
+        seat(0).debit(static_cast<Integer>(seat(0).getBalance() - balance));
+        endTurn();
+        if (balance == 50) break;
+        EXPECT_EQ(buttons(), (Lines{"rollDice", "endTurn*", "pay50Rent*"}));
+        throwAndPass(1, 2);  // no double: Ann stays in jail
+        ASSERT_TRUE(seat(0).IsInJail());
+    }
 
     EXPECT_EQ(buttons(), (Lines{"rollDice", "endTurn*", "pay50Rent"}));
+    rec.log.clear();
     nextThrow(2, 4);
     click([&] { main().pay50Rent_Click(); });
     EXPECT_FALSE(seat(0).IsInJail());
     EXPECT_EQ(seat(0).getBalance(), 0);
     EXPECT_EQ(seat(0).getPosition(), 16);
+    EXPECT_EQ(soundsOf(SoundEffect::DiceRoll), 0);  // leaves and throws in the one click
     EXPECT_FALSE(main().pay50Rent().visible);
 }
 
@@ -253,6 +230,29 @@ TEST_F(TurnByClicks, AComputersTurnClosesBothButtonsAndAHumanInDebtSeesOnlyBankr
 
     seat(1).debit(1501);  // a debt that stands before her throw
     EXPECT_EQ(buttons(), Lines{"declareBank"}) << "human in debt";
+}
+
+// Short of a rent, only bankruptcy is offered; the test of the rent, not the sign of the
+// balance, decides. Bankruptcy then ends a game of two.
+TEST_F(TurnByClicks, ARentShortfallShowsOnlyBankruptcyWhichEndsATwoPlayerGame) {
+    seatAnnAndBob();
+    seat(1).newlyOwn(*board().getCell(3));  // rent 10
+    seat(0).debit(1495);
+    nextThrow(1, 2);  // Ann, with 5, onto it
+    roll();
+    EXPECT_EQ(main().Label1(), "You cannot pay the rent, you must get $5");
+    seat(0).credit(5);
+    EXPECT_EQ(buttons(), (Lines{"rollDice*", "endTurn"}));
+    seat(0).debit(1);
+    EXPECT_EQ(buttons(), Lines{"declareBank"});
+    rec.log.clear();
+    click([&] { main().declareBank_Click(); });
+    EXPECT_TRUE(seat(0).isBankrupt2());
+    EXPECT_TRUE(run->gameEnd().isVisible());
+    EXPECT_FALSE(main().isVisible());
+    EXPECT_FALSE(main().bigToken(0).visible);
+    EXPECT_EQ(main().panel(0).balance.caption, "Bankrupt");
+    EXPECT_EQ(soundsOf(SoundEffect::Bankrupt), 1);
 }
 
 }  // namespace

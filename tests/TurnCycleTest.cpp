@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A turn from the throw to the hand-over: moves, Go money, doubles, jail and the two
-// refusals of End Turn, checked against the recorded order of window calls and sounds.
+// A turn from the throw to the hand-over: moves, Go money, the chain of doubles, jail and the
+// two refusals of End Turn, checked against the recorded order of window calls and sounds.
 #include "GameFixture.h"
-#include "windows/CellInfoWindow.h"
 
 namespace gw::test {
 namespace {
 
-class TurnCycle : public TwoHumans {};
+class TurnCycle : public TwoHumans {
+protected:
+    // A human's throw and landing, as the Roll Dice button runs them.
+    void throwAndLand(int a, int b) {
+        nextThrow(a, b);
+        board->playTurn();
+    }
+};
 
 TEST_F(TurnCycle, ThrowPassingGoWalksInTwoStrokesWithTheGoMoneyBetween) {
     placeAt(*ann, 38);
@@ -29,7 +35,7 @@ TEST_F(TurnCycle, DoublesLetTheSamePlayerGoAgain) {
     board->playTurn();
     EXPECT_TRUE(rec.has("showInfo: Ann, you have rolled doubles, go again!"));
     EXPECT_EQ(ann->getPosition(), 6);
-    card().forget_Click();
+    onCard("forget");
     board->endTurn();
     EXPECT_EQ(&board->getCurrPlayer(), ann);
     EXPECT_EQ(rec.log.back(), "showInJail");
@@ -63,21 +69,26 @@ TEST_F(TurnCycle, ThreeDoublesSendToJailWithoutGoMoneyAndEndTheTurn) {
     EXPECT_EQ(ann->getDoubleCount(), 0);
 }
 
+// A failed throw in jail shows its message, then the buttons, then the dice; the third frees
+// and moves.
 TEST_F(TurnCycle, JailThrowsFailTwiceThenTheThirdFailureFreesAndMoves) {
     ann->goToJail();
-    rec.clear();
     for (int attempt = 1; attempt <= 2; ++attempt) {
-        nextThrow(1, 2);
-        board->rollDice();
+        rec.clear();
+        throwAndLand(1, 2);
+        EXPECT_EQ(rec.log, (Lines{"showInfo: Ann, no doubles, stay in jail!",
+                                  "UpdateTurnPlaying(1)", "Showdice(1,2)",
+                                  "showCell(10)",  // the landing on the cell she never left
+                                  "UpdateTurnPlaying(1)"}));
         EXPECT_TRUE(ann->IsInJail());
         EXPECT_EQ(ann->getPosition(), 10);
         EXPECT_EQ(ann->getJailCount(), attempt);
-        EXPECT_TRUE(rec.has("showInfo: Ann, no doubles, stay in jail!"));
-        EXPECT_TRUE(rec.has("UpdateTurnPlaying(1)"));
-        rec.clear();
+        board->endTurn();
+        EXPECT_EQ(&board->getCurrPlayer(), bob);
+        board->endTurn();  // Bob on Go ends his turn
     }
-    nextThrow(1, 2);
-    board->rollDice();
+    rec.clear();
+    throwAndLand(1, 2);
     EXPECT_TRUE(rec.has("showInfo: Ann, no doubles, stay in jail!"));
     EXPECT_FALSE(ann->IsInJail());
     EXPECT_EQ(ann->getJailCount(), 0);
@@ -93,7 +104,7 @@ TEST_F(TurnCycle, DoublesInJailFreeMoveAndThrowAgain) {
     EXPECT_TRUE(rec.has("showInfo: Good JobAnn, you can now get out of jail!"));
     EXPECT_FALSE(ann->IsInJail());
     EXPECT_EQ(ann->getPosition(), 18);
-    card().forget_Click();
+    onCard("forget");
     board->endTurn();
     EXPECT_EQ(&board->getCurrPlayer(), ann);
 }
@@ -103,15 +114,15 @@ TEST_F(TurnCycle, AHumanTurnEndsOnlyWhenTheLandingIsDealtWithAndNothingIsOwed) {
     board->playTurn();
     EXPECT_EQ(ann->getPosition(), 3);
     EXPECT_EQ(rec.log.back(), "UpdateTurnPlaying(1)");
-    EXPECT_TRUE(card().isVisible());  // the purchase card of Saint-Jacques
-    EXPECT_EQ(card().cardOpt(), kOptBuy);
+    EXPECT_TRUE(cardUp());  // the purchase card of Saint-Jacques
+    EXPECT_EQ(cardOpt(), kOptBuy);
     rec.clear();
     board->endTurn();
     EXPECT_EQ(rec.log.front(), "showInfo: You must do something before you end your turn");
     EXPECT_EQ(&board->getCurrPlayer(), ann);
-    EXPECT_TRUE(card().isVisible());  // the landing ran again
+    EXPECT_TRUE(cardUp());  // the landing ran again
 
-    card().forget_Click();
+    onCard("forget");
     setBalance(*ann, -1);
     board->endTurn();
     EXPECT_EQ(rec.log.front(), "showInfo: You must make money first");
@@ -161,6 +172,54 @@ TEST_F(TurnOrder, ShuffleOfOnePlayerKeepsSlotZero) {
     board->shufflePlayers();
     EXPECT_EQ(board->getPlayer(0)->getName(), "Solo");
     EXPECT_EQ(board->getPlayer(0)->getId(), 0);
+}
+
+TEST_F(TurnCycle, AThrowWithoutDoublesEndsTheChainAndTheTurnPassesOn) {
+    throwAndLand(5, 5);  // to the jail cell, only visiting
+    board->endTurn();
+    ASSERT_EQ(&board->getCurrPlayer(), ann);
+    throwAndLand(1, 2);  // to Saint-Sulpice, for sale
+    EXPECT_EQ(ann->getDoubleCount(), 0);
+    onCard("forget");
+    board->endTurn();
+    EXPECT_EQ(&board->getCurrPlayer(), bob);
+    EXPECT_EQ(rec.log.back(), "showInJail");
+    EXPECT_EQ(rec.log[rec.log.size() - 2], "UpdateTurnPlaying(0)");
+}
+
+TEST_F(TurnCycle, DoublesAroundAThrowWithoutAreNotThreeInARow) {
+    for (auto [a, b] : {std::pair{5, 5}, {1, 2}, {1, 1}, {5, 5}}) {
+        nextThrow(a, b);
+        board->rollDice();
+    }
+    EXPECT_FALSE(ann->IsInJail());
+    EXPECT_EQ(ann->getPosition(), 25);
+    EXPECT_EQ(ann->getDoubleCount(), 2);
+    EXPECT_FALSE(rec.has("showInfo: Ann, you have rolled three doubles, go to jail!"));
+}
+
+// Doubles that end in jail, by the police or by the card: End Turn hands over at once.
+TEST_F(TurnCycle, ADoubleThatEndsInJailGivesNoFurtherThrow) {
+    struct Case {
+        Integer from;
+        int face;
+    };
+    // To the police, then to a card cell whose top card, in the fixture's deck, is the jail.
+    for (const Case& c : {Case{24, 3}, Case{0, 1}}) {
+        SCOPED_TRACE(c.from);
+        placeAt(*ann, c.from);
+        ann->getOutOfJail();
+        throwAndLand(c.face, c.face);
+        ASSERT_TRUE(ann->IsInJail());
+        EXPECT_EQ(ann->getPosition(), 10);
+        EXPECT_EQ(ann->getDoubleCount(), 1);
+        board->endTurn();
+        EXPECT_EQ(&board->getCurrPlayer(), bob);
+        EXPECT_EQ(ann->getDoubleCount(), 0);
+        EXPECT_TRUE(ann->IsInJail());
+        board->endTurn();  // Bob on Go ends his turn: Ann's next one starts in jail
+        ASSERT_EQ(&board->getCurrPlayer(), ann);
+    }
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The trading card's amount box as two people use it: the buyer types a sum and makes the
-// offer, the card turns to the owner, who clicks into the box and types a counter-offer.
+// The trading card's amount box as two people use it: its filter of keys, the buyer types a
+// sum and makes the offer, the card turns to the owner, who clicks into the box and types a
+// counter-offer.
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -66,6 +67,26 @@ TEST_F(TradingBox, TheOwnerTypesOverTheBuyersSumAfterClickingIntoTheBox) {
     clickInto(*card().controls().button("wantMore"));
     EXPECT_EQ(model().Label4().caption, "200");
     EXPECT_EQ(ann->getBalance(), 1500);  // an offer, not a sale
+}
+
+// The box keeps digits only, five at most, and typing after it gets the focus replaces the
+// old sum.
+TEST_F(TradingBox, KeepsDigitsAndReplacesTheOldSumOnFocus) {
+    amount().setFocus();
+    gui.settle();
+    QTest::keyClicks(&amount(), "12a3-");
+    QTest::keyClick(&amount(), Qt::Key_Backspace);
+    EXPECT_EQ(model().amountText(), "123");
+    EXPECT_EQ(amount().text(), "123");
+    QTest::keyClicks(&amount(), "4567");
+    EXPECT_EQ(model().amountText(), "12345");
+    amount().clearFocus();
+    amount().setFocus();
+    gui.settle();
+    EXPECT_TRUE(model().amountSelected());
+    QTest::keyClicks(&amount(), "9");
+    EXPECT_EQ(model().amountText(), "9");
+    EXPECT_EQ(amount().text(), "9");
 }
 
 TEST_F(TradingBox, EveryClickIntoTheBoxSelectsTheWholeSum) {

@@ -1,16 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where the windows open: the cards and About belong to the main window and leave its turn
-// buttons and message line in view, beside the board where the screen has room, over it
-// where it has not; the set-up and end windows open in the middle of the screen.
+// Where the windows open and the main window's menus. The cards and About belong to the main
+// window and leave its turn buttons and message line in view, beside the board where the
+// screen has room, over it where it has not; the set-up and end windows open in the middle of
+// the screen. Game > Pace: a pick inside a real wait shortens it, and the menu answers while a
+// card holds the board; View > History and its key; File > Voice, whose desktop voice with no
+// audio device is silent and harmless.
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QElapsedTimer>
+#include <QListWidget>
+#include <QMenuBar>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 #include <set>
 
 #include "GuiRun.h"
 #include "app/Autoplay.h"
+#include "app/QtVoice.h"
+#include "game/Board.h"
 #include "view/CardPlacement.h"
 
 namespace gw::test {
@@ -125,6 +134,99 @@ TEST(CardPlacement, AboutBelongsToTheMainWindowAndTheSetUpWindowOpensInTheMiddle
     const QRect screen = p.startView().screen()->availableGeometry();
     const QPoint off = p.startView().frameGeometry().center() - screen.center();
     EXPECT_LE(off.manhattanLength(), 8) << off.x() << ", " << off.y();
+}
+
+QAction* menuOf(QMainWindow& window, const QString& title) {
+    for (QAction* action : window.menuBar()->actions()) {
+        if (action->text() == title) return action;
+    }
+    return nullptr;
+}
+
+TEST(PaceMenuTest, FastPickedInsideAWaitShortensIt) {
+    GuiRun gui(std::make_unique<SeededRandom>(5), 100);
+    view::PaceMenu& menu = *gui.program->paceMenu();
+    EXPECT_TRUE(menu.entry(Pace::Designed).isChecked());
+    // A wait of 20 ticks of 100 ms: 2 s as designed, 500 ms at Fast.
+    QTimer::singleShot(50, [&] { menu.entry(Pace::Fast).trigger(); });
+    QElapsedTimer clock;
+    clock.start();
+    gui.delay.wait(20);
+    const qint64 fastMs = clock.elapsed();
+    EXPECT_GE(fastMs, 450);
+    EXPECT_LT(fastMs, 1500);
+    EXPECT_TRUE(menu.entry(Pace::Fast).isChecked());
+    EXPECT_FALSE(menu.entry(Pace::Designed).isChecked());
+
+    QTimer::singleShot(50, [&] { menu.entry(Pace::Instant).trigger(); });
+    clock.restart();
+    gui.delay.wait(20);
+    EXPECT_LT(clock.elapsed(), 400);
+    EXPECT_EQ(gui.delay.depth(), 0);
+    EXPECT_EQ(gui.delay.pacing().pace(), Pace::Instant);
+}
+
+TEST(PaceMenuTest, TheGameMenuAnswersWhileACardHoldsTheBoard) {
+    GuiRun gui(std::make_unique<SeededRandom>(5));
+    view::MainWindowView& main = gui.program->mainView();
+    QAction* game = menuOf(main, QStringLiteral("&Game"));
+    QAction* file = menuOf(main, QStringLiteral("&File"));
+    ASSERT_NE(game, nullptr);
+    ASSERT_NE(file, nullptr);
+    // The Game menu sits before Help.
+    EXPECT_EQ(main.menuBar()->actions().back()->text(), QStringLiteral("&Help"));
+    gui.run.mainWindow().setEnabled(false);
+    gui.program->refreshAll();
+    EXPECT_TRUE(game->isEnabled());
+    EXPECT_FALSE(file->isEnabled());
+    gui.run.mainWindow().setEnabled(true);
+    gui.program->refreshAll();
+    EXPECT_TRUE(file->isEnabled());
+}
+
+TEST(HistoryView, OpensFromTheMenuAndListsTheGameNewestLast) {
+    GuiRun gui(std::make_unique<SeededRandom>(5));
+    app::Program& program = *gui.program;
+    gui.seatAnnAndBob();
+    gui.settle();
+    view::HistoryView& window = program.historyView();
+    EXPECT_FALSE(window.isVisible());
+    program.mainView().action("History").trigger();
+    gui.settle();
+    ASSERT_TRUE(window.isVisible());
+    program.dispatch().click([&] { gui.run.mainWindow().rollDice_Click(); });
+    gui.settle();
+    const auto& entries = gui.run.history().entries();
+    ASSERT_FALSE(entries.empty());
+    ASSERT_EQ(window.list().count(), static_cast<int>(entries.size()));
+    const QString last = window.list().item(window.list().count() - 1)->text();
+    EXPECT_TRUE(last.endsWith(QString::fromStdString(entries.back().text))) << last.toStdString();
+    EXPECT_TRUE(last.startsWith(QStringLiteral("Round 1 · "))) << last.toStdString();
+    EXPECT_EQ(program.mainView().action("History").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_H));
+    savePictures(window, "history");
+    window.close();
+    gui.settle();
+    EXPECT_FALSE(gui.run.history().isVisible());
+}
+
+TEST(VoiceMenu, EnableAndMuteReachTheNarrator) {
+    GuiRun gui(std::make_unique<SeededRandom>(5));
+    RecordedVoice voice;
+    gui.run.setVoice(voice);
+    view::MainWindowView& window = gui.program->mainView();
+    EXPECT_FALSE(gui.run.narrator().isEnabled());
+    window.action("Enable1").trigger();
+    EXPECT_TRUE(gui.run.narrator().isEnabled());
+    window.action("Mute1").trigger();
+    EXPECT_FALSE(gui.run.narrator().isEnabled());
+    EXPECT_EQ(voice.stops, 1);
+}
+
+TEST(VoiceMenu, TheDesktopVoiceWithoutADeviceIsSilent) {
+    app::QtVoice voice;
+    voice.say("Ann has bought Saint-Jacques");
+    voice.stop();
+    SUCCEED();
 }
 
 }  // namespace
