@@ -10,23 +10,13 @@
 
 #include "art/BoardGeometry.h"
 #include "art/Text.h"
+#include "base/CellFaceKind.h"
 
 class QPainter;
 
 namespace gw::art {
 
-enum class CellKind {
-    Street,
-    Metro,
-    UtilityBulb,
-    UtilityTower,
-    Jfl,
-    Tax,
-    Go,
-    Jail,
-    FreeStop,
-    Police
-};
+using CellKind = CellFaceKind;
 
 struct CellFace {
     CellKind kind = CellKind::Street;

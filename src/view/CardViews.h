@@ -9,13 +9,6 @@
 #include "windows/TradingCardWindow.h"
 #include "windows/taxCellWindow.h"
 
-namespace gw {
-class CellInfoWindow;
-class TradingCardWindow;
-class JFLCardWindow;
-class taxCellWindow;
-}  // namespace gw
-
 namespace gw::view {
 
 class CellInfoView final : public WindowView {

@@ -29,32 +29,6 @@ struct CellPrint {
 
 namespace {
 
-art::CellKind artKindOf(CellFaceKind kind) {
-    switch (kind) {
-        case CellFaceKind::Street:
-            return art::CellKind::Street;
-        case CellFaceKind::Metro:
-            return art::CellKind::Metro;
-        case CellFaceKind::UtilityBulb:
-            return art::CellKind::UtilityBulb;
-        case CellFaceKind::UtilityTower:
-            return art::CellKind::UtilityTower;
-        case CellFaceKind::Jfl:
-            return art::CellKind::Jfl;
-        case CellFaceKind::Tax:
-            return art::CellKind::Tax;
-        case CellFaceKind::Go:
-            return art::CellKind::Go;
-        case CellFaceKind::Jail:
-            return art::CellKind::Jail;
-        case CellFaceKind::FreeStop:
-            return art::CellKind::FreeStop;
-        case CellFaceKind::Police:
-            return art::CellKind::Police;
-    }
-    return art::CellKind::Street;
-}
-
 QColor bandOf(const CellFace& face) {
     switch (face.kind) {
         case CellFaceKind::Street:
@@ -71,7 +45,7 @@ QColor bandOf(const CellFace& face) {
 
 art::CellFace artFaceOf(const CellFace& face) {
     art::CellFace art;
-    art.kind = artKindOf(face.kind);
+    art.kind = face.kind;
     art.name = QString::fromStdString(face.name);
     art.price = face.price;
     art.band = bandOf(face);

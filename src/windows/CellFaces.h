@@ -6,25 +6,13 @@
 #include <array>
 #include <string>
 
+#include "base/CellFaceKind.h"
 #include "base/Integer.h"
 #include "base/Limits.h"
 
 namespace gw {
 
 class Board;
-
-enum class CellFaceKind {
-    Street,
-    Metro,
-    UtilityBulb,
-    UtilityTower,
-    Jfl,
-    Tax,
-    Go,
-    Jail,
-    FreeStop,
-    Police
-};
 
 struct CellFace {
     CellFaceKind kind = CellFaceKind::Street;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The windows that the rules talk to, gathered for one game: the main window (behind
-// its port), the sound, the delays, and the four cards behind theirs. The cards' models
-// are only declared here: a view or a test that clicks one includes that card's header,
-// so that an edit to one card rebuilds only the files that use it.
+// The windows of one game: the ports the rules talk to (the main window, the sound, the
+// delays and the four cards), and behind them the cards' models. Those are only declared
+// here: a view or a test that clicks one includes that card's header, so that an edit to
+// one card rebuilds only the files that use it.
 #pragma once
 
 #include <functional>
