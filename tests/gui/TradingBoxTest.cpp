@@ -56,6 +56,9 @@ TEST_F(TradingBox, TheOwnerTypesOverTheBuyersSumAfterClickingIntoTheBox) {
     clickInto(*card().controls().button("wantIt"));
     ASSERT_EQ(model().face(), TradeFace::Owner);
     EXPECT_EQ(model().Label4().caption, "120");
+    // Turned to the owner, the card selects the sum without a click.
+    EXPECT_TRUE(model().amountSelected());
+    EXPECT_EQ(amount().selectedText(), "120");
     amount().setFocus();  // the focus went back to the box, as it does for a person
     gui.settle();
     clickInto(amount());  // a click into a box that holds the focus already
@@ -87,30 +90,6 @@ TEST_F(TradingBox, KeepsDigitsAndReplacesTheOldSumOnFocus) {
     QTest::keyClicks(&amount(), "9");
     EXPECT_EQ(model().amountText(), "9");
     EXPECT_EQ(amount().text(), "9");
-}
-
-TEST_F(TradingBox, EveryClickIntoTheBoxSelectsTheWholeSum) {
-    clickInto(amount());
-    QTest::keyClicks(&amount(), "45");
-    clickInto(amount());
-    EXPECT_EQ(amount().selectedText(), "45");
-    clickInto(amount());
-    EXPECT_EQ(amount().selectedText(), "45");
-    QTest::keyClicks(&amount(), "7");
-    EXPECT_EQ(model().amountText(), "7");
-}
-
-TEST_F(TradingBox, TheCardTurningToTheOwnerSelectsTheSumWithoutAClick) {
-    clickInto(amount());
-    QTest::keyClicks(&amount(), "120");
-    clickInto(*card().controls().button("wantIt"));
-    ASSERT_EQ(model().face(), TradeFace::Owner);
-    EXPECT_TRUE(model().amountSelected());
-    EXPECT_EQ(amount().selectedText(), "120");
-    amount().setFocus();
-    gui.settle();
-    QTest::keyClicks(&amount(), "300");
-    EXPECT_EQ(model().amountText(), "300");
 }
 
 }  // namespace
