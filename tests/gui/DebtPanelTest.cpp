@@ -38,11 +38,9 @@ TEST_F(DebtPanel, TheLineAndTheHandComeAndGoWithTheDebt) {
     player& p = current();
     p.newlyOwn(*gui.run.board().getCell(12));
     click([&] { p.debit(1560); });  // 60 short; the utility's mortgage brings 100
+    // The words and the question are the model's, checked with the core run.
     ASSERT_TRUE(panel.isVisible());
-    EXPECT_EQ(panel.line().text().toStdString(),
-              p.getName() +
-                  ", you are $60 short. Click your cells to mortgage them or sell hotels, or "
-                  "Declare Bankruptcy.");
+    EXPECT_EQ(panel.line().text().toStdString(), gui.run.debtHelp().line());
     ASSERT_TRUE(panel.raiseForMe().isVisible());
     EXPECT_EQ(panel.raiseForMe().text(), QStringLiteral("Raise $60 for me"));
     savePictures(program().mainView(), "debt-panel");
@@ -53,17 +51,11 @@ TEST_F(DebtPanel, TheLineAndTheHandComeAndGoWithTheDebt) {
     gui.settle();
     EXPECT_EQ(panel.geometry(), QRect(592, 376, 186, 96));
 
-    question.answers = {false};
     clickOn(panel.raiseForMe());
     gui.settle();
-    EXPECT_EQ(p.getBalance(), -60);
-    EXPECT_TRUE(panel.isVisible());
-
-    clickOn(panel.raiseForMe());
-    gui.settle();
+    EXPECT_EQ(question.asked.size(), 1U);
     EXPECT_EQ(p.getBalance(), 40);
     EXPECT_FALSE(panel.isVisible());
-    EXPECT_EQ(question.asked.size(), 2U);
 }
 
 TEST_F(DebtPanel, TheCloseBoxAsksAndNoPlaysOn) {

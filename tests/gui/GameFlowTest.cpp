@@ -208,9 +208,6 @@ TEST_F(GameFlow, BankruptcyShowsTheWinnerAndANewGameBringsTheSetUpBack) {
     EXPECT_FALSE(program().mainView().isVisible());
     EXPECT_EQ(end.controls().label("Label1")->text(),
               "Computer1, the richest person in Kestrovia!");
-    const QLabel& winner = *end.controls().label("Label1");
-    EXPECT_LE(QFontMetrics(winner.font()).horizontalAdvance(winner.text()), winner.width());
-    EXPECT_EQ(gui->run.gameEnd().closingLine(), "The machines hold the city.");
     savePictures(end, "game-over");
 
     click(button(end.controls(), "Command1"));
@@ -301,20 +298,23 @@ TEST(StoryViewTest, ShowsWithGameOverAndDrawsEveryPlayersWorth) {
     savePictures(view, "story");
 }
 
-// Three computers play a seeded game to its end at once.
-void playThreeComputersToTheEnd(GuiRun& gui) {
-    gui.delay.pacing().setPace(Pace::Instant);
-    app::seatComputers(gui.program->dispatch(), gui.run, 3);
-    gui.settle();
-}
+// Three computers have played a seeded game to its end at once.
+class WatchAgain : public ::testing::Test {
+protected:
+    WatchAgain() {
+        gui.delay.pacing().setPace(Pace::Instant);
+        app::seatComputers(gui.program->dispatch(), gui.run, 3);
+        gui.settle();
+        EXPECT_TRUE(gui.run.gameEnd().isVisible());
+        end = sim::stateHash(gui.run.board());
+    }
+    GuiRun gui{std::make_unique<SeededRandom>(9), 4};
+    std::uint64_t end = 0;
+};
 
 // "Watch the game again" replays on the main window at Fast, with a Stop over the board;
 // Stop plays the rest at once and Game Over comes back on the same end.
-TEST(StoryViewTest, WatchTheGameAgainThenStop) {
-    GuiRun gui(std::make_unique<SeededRandom>(9), 4);
-    playThreeComputersToTheEnd(gui);
-    ASSERT_TRUE(gui.run.gameEnd().isVisible());
-    const std::uint64_t end = sim::stateHash(gui.run.board());
+TEST_F(WatchAgain, ThenStop) {
     view::StoryView& story = gui.program->storyView();
     ASSERT_TRUE(story.watchAgain().isEnabled());
 
@@ -344,11 +344,7 @@ TEST(StoryViewTest, WatchTheGameAgainThenStop) {
 
 // The close box during a game watched again ends the program, as it always does, once the
 // rest of the game has been played at once.
-TEST(StoryViewTest, TheCloseBoxDuringAReplayEndsTheProgram) {
-    GuiRun gui(std::make_unique<SeededRandom>(9), 4);
-    playThreeComputersToTheEnd(gui);
-    ASSERT_TRUE(gui.run.gameEnd().isVisible());
-    const std::uint64_t end = sim::stateHash(gui.run.board());
+TEST_F(WatchAgain, TheCloseBoxDuringTheReplayEndsTheProgram) {
     QTimer::singleShot(150, [&] { gui.program->mainView().close(); });
     clickOn(gui.program->storyView().watchAgain());
     EXPECT_TRUE(gui.exited);
