@@ -108,6 +108,8 @@ TEST_F(GameFlow, SeatingShowsEachStepAndARefusalThenStartsTheGame) {
     typeName("abcdefghijklmnopqrstuvwxyz");
     EXPECT_EQ(gui->run.gameStart().nickName(), "abcdefghijklmnopqrst");
     EXPECT_EQ(nickName().text(), "abcdefghijklmnopqrst");
+    typeName("");  // emptied, the entry still tells the window
+    EXPECT_EQ(gui->run.gameStart().nickName(), "");
     typeName("Ann");
     EXPECT_EQ(gui->run.gameStart().nickName(), "Ann");
     click(start().token(0));
@@ -215,7 +217,11 @@ TEST_F(GameFlow, BankruptcyShowsTheWinnerAndANewGameBringsTheSetUpBack) {
     EXPECT_FALSE(program().mainView().isVisible());
     ASSERT_TRUE(start().isVisible());
     // The model's reset is checked whole by the core run; here the widgets follow it.
-    EXPECT_TRUE(start().token(0).isVisibleTo(&start()));
+    for (int i = 0; i < kTokenCount; ++i) EXPECT_TRUE(start().token(i).isVisibleTo(&start()));
+    for (int i = kFirstSlot; i < kTokenControls; ++i) {
+        EXPECT_FALSE(start().token(i).isVisibleTo(&start()));
+    }
+    EXPECT_FALSE(button(start().controls(), "Command1").isVisibleTo(&start()));
     EXPECT_FALSE(start().controls().label("Label1")->isVisibleTo(&start()));
     EXPECT_EQ(nickName().text(), "Enter your name here");
     EXPECT_TRUE(nickName().isEnabled());

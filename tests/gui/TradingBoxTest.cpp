@@ -92,5 +92,16 @@ TEST_F(TradingBox, KeepsDigitsAndReplacesTheOldSumOnFocus) {
     EXPECT_EQ(amount().text(), "9");
 }
 
+TEST_F(TradingBox, EveryClickIntoTheBoxSelectsTheWholeSum) {
+    clickInto(amount());
+    QTest::keyClicks(&amount(), "45");
+    clickInto(amount());
+    EXPECT_EQ(amount().selectedText(), "45");
+    clickInto(amount());
+    EXPECT_EQ(amount().selectedText(), "45");
+    QTest::keyClicks(&amount(), "7");
+    EXPECT_EQ(model().amountText(), "7");
+}
+
 }  // namespace
 }  // namespace gw::test
