@@ -124,14 +124,10 @@ TEST_F(SetUpWindow, NothingIsOfferedAfterTheSixthPlayerAndTheBoardRefusesASevent
 }
 
 TEST_F(SetUpWindow, LetsStartHidesTheWindowAndOpensTheFirstTurn) {
-    addPlayer("Ann", 1);
-    addPlayer("Bob", 2);
-    letsStart();
+    seatAnnAndBob();
     EXPECT_FALSE(start().isVisible());
     EXPECT_TRUE(main().isVisible());
-    EXPECT_EQ(board().getNumPlayer(), 2);
     EXPECT_EQ(main().Label2(), "Ann");
-    EXPECT_EQ(buttons(), (Lines{"rollDice", "endTurn*"}));
     click([&] { start().Command2_Click(); });  // a hidden window starts nothing
     EXPECT_EQ(board().getNumPlayer(), 2);
 }

@@ -65,19 +65,12 @@ TEST(MonkeyOptions, AGoodLineGivesTheRunAskedForAndHelpStopsReading) {
 
 TEST(MonkeyOptions, EachBadValueGetsOneLineNamingTheOption) {
     const std::string steps = "a whole number from 1 to 1000000000";
+    // The reader's other refusals, shared with the simulator, are checked with its options.
     const std::vector<std::pair<std::string, std::string>> cases = {
-        {"--steps", "--steps needs a value: " + steps},
         {"--steps 0", "--steps takes " + steps + ", not '0'"},
-        {"--steps -3", "--steps takes " + steps + ", not '-3'"},
-        {"--steps ten", "--steps takes " + steps + ", not 'ten'"},
         {"--steps 1000000001", "--steps takes " + steps + ", not '1000000001'"},
-        {"--seed 18446744073709551616",
-         "--seed takes a whole number from 0 to 18446744073709551615, not "
-         "'18446744073709551616'"},
-        {"--seed -1", "--seed takes a whole number from 0 to 18446744073709551615, not '-1'"},
         {"5", "'5' is not an option; options start with -- (see gildenway-monkey --help)"},
         {"--games 5", "--games is not an option; the options are --seed, --steps, --help"},
-        {"--seed 1 --seed=2", "--seed is given twice"},
     };
     for (const auto& [line, error] : cases) EXPECT_EQ(parse(line).error, error) << line;
 }

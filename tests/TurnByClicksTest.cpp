@@ -25,20 +25,12 @@ protected:
 
 TEST_F(TurnByClicks, ATaxTooHighIsRaisedByMortgagingFromThePropertyCardThenPaid) {
     seatAnnAndBob();
-    buyWhereTheThrowLands(1, 2);  // Ann buys Saint-Jacques
-    endTurn();
-    throwAndPass(2, 4);           // Bob: 6
-    buyWhereTheThrowLands(5, 6);  // Ann buys Saint-Paul, 14
-    endTurn();
-    throwAndPass(2, 4);           // Bob: 12
-    buyWhereTheThrowLands(5, 6);  // Ann buys the metro station Vendome, 25
-    endTurn();
-    throwAndPass(2, 4);  // Bob: 18
-    throwAndPass(4, 5);  // Ann: 34
-    // Ann is down to 30 before her turn; on her own turn, standing on a street she could
-    // not pay for, she would be offered only bankruptcy.
-    seat(0).debit(static_cast<Integer>(seat(0).getBalance() - 30));
-    throwAndPass(2, 4);
+    seat(0).newlyOwn(*board().getCell(25));  // the metro station Vendome
+    seat(0).debit(1470);                     // down to 30 on Go, where nothing is owed
+    click([&] {
+        seat(0).move(34, true);
+        main().UpdateTurnPlaying(TurnButtons::Roll);
+    });
 
     nextThrow(1, 3);  // 34 to the Luxury Tax, 75
     roll();

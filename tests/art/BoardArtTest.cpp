@@ -231,11 +231,8 @@ void expectPairwiseApart(const std::vector<QImage>& images, double threshold) {
                 << tokenName(static_cast<int>(b)).toStdString();
 }
 
-TEST(Tokens, DifferAt64) {
+TEST(Tokens, DifferAt64AndAtTenByEight) {
     expectPairwiseApart(tokensAt({64, 64}), 12);
-}
-
-TEST(Tokens, DifferAtTenByEight) {
     expectPairwiseApart(tokensAt({10, 8}), 20);
 }
 

@@ -185,9 +185,7 @@ TEST(OptionsTest, EachBadLineGetsOneLineNamingWhatIsWrong) {
         {{"--computers"}, "Missing value after '--computers'."},
         {{"stray"}, "'stray' is not an option"},
         {{"--leave-by", "door"}, "--leave-by takes close or exit"},
-        {{"--leave-by"}, "Missing value after '--leave-by'."},
         {{"--pace", "slow"}, "--pace takes designed, fast or instant"},
-        {{"--pace"}, "Missing value after '--pace'."},
     };
     for (const auto& [words, error] : cases) {
         const app::Options options = app::parseOptions(QStringList{"gildenway"} + words);

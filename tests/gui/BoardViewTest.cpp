@@ -40,14 +40,14 @@ QRect screenCell(view::BoardWidget& board, int cellId, qreal scale) {
 }
 
 // Ann and a computer seated, Ann to roll.
-class BoardAccessible : public ::testing::Test {
+class SeatedBoard : public ::testing::Test {
 protected:
-    BoardAccessible() { gui.seatAnnAndAComputer(); }
+    SeatedBoard() { gui.seatAnnAndAComputer(); }
     GuiRun gui{std::make_unique<SeededRandom>(4)};
     view::MainWindowView& main = gui.program->mainView();
 };
 
-TEST_F(BoardAccessible, FortyCellButtonsNamedAsTheCellsAndPlacedAtTheZoom) {
+TEST_F(SeatedBoard, FortyCellButtonsNamedAsTheCellsAndPlacedAtTheZoom) {
     view::BoardWidget& board = main.board();
     QAccessibleInterface* boardFace = QAccessible::queryAccessibleInterface(&board);
     ASSERT_NE(boardFace, nullptr);
@@ -83,7 +83,7 @@ TEST_F(BoardAccessible, FortyCellButtonsNamedAsTheCellsAndPlacedAtTheZoom) {
     }
 }
 
-TEST_F(BoardAccessible, PressingACellOpensItsCardAsAClickDoes) {
+TEST_F(SeatedBoard, PressingACellOpensItsCardAsAClickDoes) {
     main.zoomTo(1.5);
     gui.settle();
     ASSERT_FALSE(gui.run.windows().cellInfo.isVisible());
@@ -104,7 +104,7 @@ TEST_F(BoardAccessible, PressingACellOpensItsCardAsAClickDoes) {
 }
 
 // The panels' painted tokens are named: each row's token and player, and whose turn it is.
-TEST_F(BoardAccessible, PanelsNameTheTokensTheyShow) {
+TEST_F(SeatedBoard, PanelsNameTheTokensTheyShow) {
     QStringList names;
     for (const QWidget* w : main.client().findChildren<QWidget*>()) names << w->accessibleName();
     const player& ann = gui.run.board().getCurrPlayer();
@@ -121,7 +121,7 @@ TEST_F(BoardAccessible, PanelsNameTheTokensTheyShow) {
 }
 
 // The Alt letter is drawn underlined; the caption the model writes stays as it is.
-TEST_F(BoardAccessible, TurnButtonsUnderlineTheirAltLetterAndKeepTheirCaptions) {
+TEST_F(SeatedBoard, TurnButtonsUnderlineTheirAltLetterAndKeepTheirCaptions) {
     const view::ControlSet& controls = gui.program->mainView().controls();
     const MainWindow& model = gui.run.mainWindow();
     struct Key {
@@ -308,10 +308,7 @@ TEST_P(Zoom, ClicksAtScaledPlacesReachRollDiceACardButtonAndACell) {
 
 INSTANTIATE_TEST_SUITE_P(AtTwoSizes, Zoom, ::testing::Values(150, 75));
 
-TEST(ZoomWindow, KeepsItsProportionsWithTheBoardInTheMiddleAndHasAViewMenu) {
-    GuiRun gui(std::make_unique<SeededRandom>(4));
-    gui.seatAnnAndAComputer();
-    view::MainWindowView& main = gui.program->mainView();
+TEST_F(SeatedBoard, TheWindowKeepsItsProportionsWithTheBoardInTheMiddleAndHasAViewMenu) {
     main.action("Zoom200").trigger();
     gui.settle();
     EXPECT_NEAR(main.scale(), 2.0, 0.01);
