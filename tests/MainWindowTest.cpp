@@ -80,12 +80,6 @@ TEST_F(Window, ASecondClickOnRollDuringTheAnimationIsDropped) {
     EXPECT_EQ(board->getCurrPlayer().getPosition(), 3);
 }
 
-TEST_F(Window, AComputerFirstPlaysUntilAHumanIsCurrent) {
-    start({true, false});
-    EXPECT_EQ(board->getCurrPlayerIndex(), 1);
-    EXPECT_TRUE(model.rollDice().isOpen());
-}
-
 TEST_F(Window, CellClicksOpenCardsOnlyOnBuyableCellsAndOnlyForAHuman) {
     start({false, false});
     player& p0 = board->getCurrPlayer();

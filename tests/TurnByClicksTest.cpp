@@ -202,6 +202,7 @@ TEST_F(TurnByClicks, AComputersTurnClosesBothButtonsAndAHumanInDebtSeesOnlyBankr
     letsStart();  // the computer plays first
     EXPECT_EQ(computerTurn, (Lines{"rollDice*", "endTurn*"})) << "computer's turn";
     ASSERT_EQ(main().Label2(), "Ann");
+    EXPECT_EQ(buttons(), (Lines{"rollDice", "endTurn*"})) << "human after the computer";
 
     seat(1).debit(1501);  // a debt that stands before her throw
     EXPECT_EQ(buttons(), Lines{"declareBank"}) << "human in debt";

@@ -191,8 +191,6 @@ TEST_F(GameFlow, AboutOpensFromTheMenuAndOkHidesIt) {
     program().mainView().action("About").trigger();
     gui->settle();
     ASSERT_TRUE(program().aboutView().isVisible());
-    EXPECT_EQ(program().aboutView().controls().label("Label1")->text(), "Requirements Team");
-    EXPECT_EQ(program().aboutView().controls().label("Label4")->text(), "Implementation Team");
     savePictures(program().aboutView(), "about");
     click(button(program().aboutView().controls(), "Command1"));
     EXPECT_FALSE(program().aboutView().isVisible());
