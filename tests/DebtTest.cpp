@@ -205,12 +205,6 @@ protected:
     ScriptedQuestion question;
 };
 
-TEST_F(DebtHelpRun, NoWordWhileNobodyOwes) {
-    EXPECT_FALSE(help().isShown());
-    EXPECT_EQ(help().line(), "");
-    EXPECT_FALSE(help().raiseForMe().visible);
-}
-
 TEST_F(DebtHelpRun, ADebtWithNothingToSellNamesBankruptcyAndOffersNoHand) {
     annPaysMoreThanSheHas();
     EXPECT_TRUE(help().isShown());
@@ -242,8 +236,9 @@ TEST_F(DebtHelpRun, TheHandAsksFirstAndDoesNothingOnNo) {
     click([&] { run->debtHelp().raiseForMe_Click(); });  // Yes
     EXPECT_GE(ann().getBalance(), 0);
     EXPECT_TRUE(board().propertyAt(12)->getProp().isMortgaged2());
-    EXPECT_FALSE(help().isShown());
+    EXPECT_FALSE(help().isShown());  // no word once nobody owes
     EXPECT_EQ(help().line(), "");
+    EXPECT_FALSE(help().raiseForMe().visible);
     EXPECT_FALSE(ann().isBankrupt2());
     EXPECT_EQ(buttons(), (Lines{"rollDice*", "endTurn"}));
 }
