@@ -179,7 +179,7 @@ TEST_F(GameFlow, HumanBuysOnTheCardThenWatchesTheComputerPlay) {
     savePictures(program().mainView(), "main-after-computer");
 }
 
-TEST_F(GameFlow, AboutOpensFromTheMenuAndOkHidesIt) {
+TEST_F(GameFlow, AboutOpensFromTheMenuOkHidesItAndExitEndsTheRun) {
     ASSERT_NO_FATAL_FAILURE(seatAnnAndComputer());
     program().mainView().action("About").trigger();
     gui->settle();
@@ -188,6 +188,9 @@ TEST_F(GameFlow, AboutOpensFromTheMenuAndOkHidesIt) {
     click(button(program().aboutView().controls(), "Command1"));
     EXPECT_FALSE(program().aboutView().isVisible());
     EXPECT_TRUE(program().mainView().isVisible());
+    EXPECT_FALSE(gui->exited);
+    program().mainView().action("Exit").trigger();
+    EXPECT_TRUE(gui->exited);
 }
 
 TEST_F(GameFlow, BankruptcyShowsTheWinnerAndANewGameBringsTheSetUpBack) {
@@ -214,12 +217,6 @@ TEST_F(GameFlow, BankruptcyShowsTheWinnerAndANewGameBringsTheSetUpBack) {
     EXPECT_FALSE(start().controls().label("Label1")->isVisibleTo(&start()));
     EXPECT_EQ(nickName().text(), "Enter your name here");
     EXPECT_TRUE(nickName().isEnabled());
-}
-
-TEST_F(GameFlow, ExitFromTheMenuEndsTheRun) {
-    ASSERT_NO_FATAL_FAILURE(seatAnnAndComputer());
-    program().mainView().action("Exit").trigger();
-    EXPECT_TRUE(gui->exited);
 }
 
 // Closing the main window while a computer's card waits with the real 80 ms tick: the wait
