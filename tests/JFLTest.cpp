@@ -157,23 +157,17 @@ TEST_F(Cards, GoToJailWalksToJailUnpaid) {
 TEST_F(Cards, NestedDrawFinishesTheOuterCardAfterTheInnerOne) {
     onTop({kForward5, 7});
     land(*ann, 2);
+    // Each card's own calls are checked above; here the order of the two.
     const Lines expected = {
         "showInfo: Move forward 5 cells",
-        "wait 20",
-        "setEnabled(true)",
-        "UpdateTurnPlaying(2)",
         "showCell(2)",
         "MoveToken(0,2,7)",
         "showInfo: Collect $50 from bank",
-        "wait 20",
-        "setEnabled(true)",
         "sound: buy.wav",
-        "showNegBalance(false)",
-        "UpdatePlayers",
         "showCell(7)",
         "showCell(2)",
     };
-    EXPECT_EQ(rec.log, expected);
+    EXPECT_EQ(rec.only({"showInfo", "showCell", "MoveToken", "sound"}), expected);
     EXPECT_EQ(ann->getBalance(), 1550);
     EXPECT_EQ(board->getJFLDeck().getCursor(), 2);
 }
