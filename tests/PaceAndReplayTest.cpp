@@ -122,18 +122,10 @@ TEST(PaceTest, WithoutWaitsTheWindowsAreServedNowAndThen) {
     EXPECT_EQ(clock.served, 2);
 }
 
-class CountingSound final : public Sound {
-public:
-    std::vector<std::string> played;
-    std::vector<int> volumes;
-    void play(MediaPlayer, SoundEffect effect) override { played.emplace_back(soundFile(effect)); }
-    void setVolume(MediaPlayer, int v) override { volumes.push_back(v); }
-};
-
 TEST(PaceTest, InstantSkipsTheSoundsButNotTheVolume) {
     FakeClock clock;
     PacedDelay delay(clock);
-    CountingSound inner;
+    Recorder inner;
     PacedSound sound(inner, delay);
     sound.play(MediaPlayer::Main1, SoundEffect::DiceRoll);
     delay.setPace(Pace::Fast);
@@ -141,8 +133,8 @@ TEST(PaceTest, InstantSkipsTheSoundsButNotTheVolume) {
     delay.setPace(Pace::Instant);
     sound.play(MediaPlayer::Main1, SoundEffect::Pay);
     sound.setVolume(MediaPlayer::Main1, kMutedVolume);
-    EXPECT_EQ(inner.played, (std::vector<std::string>{"DICEROLL.wav", "tokenmove.wav"}));
-    EXPECT_EQ(inner.volumes, (std::vector<int>{kMutedVolume}));
+    EXPECT_EQ(inner.log, (std::vector<std::string>{"sound: DICEROLL.wav", "sound: tokenmove.wav",
+                                                   "volume 0 -3000"}));
 }
 
 struct PacedGame {
@@ -160,7 +152,7 @@ PacedGame playAt(Pace pace, std::uint64_t seed, std::optional<Pace> later = std:
     FakeClock clock;
     PacedDelay delay(clock);
     delay.setPace(pace);
-    CountingSound heard;
+    Recorder heard;
     PacedSound sound(heard, delay);
     RecordedMessageBox boxes;
     GameRun run(sound, delay, boxes, std::make_unique<SeededRandom>(seed));
@@ -185,7 +177,7 @@ PacedGame playAt(Pace pace, std::uint64_t seed, std::optional<Pace> later = std:
     game.computerTurns = run.computerTurns();
     game.winner = run.gameEnd().Label1().caption;
     game.waitedMs = clock.now;
-    game.sounds = heard.played.size();
+    game.sounds = heard.log.size();
     return game;
 }
 
