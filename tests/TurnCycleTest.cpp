@@ -30,14 +30,19 @@ TEST_F(TurnCycle, ThrowPassingGoWalksInTwoStrokesWithTheGoMoneyBetween) {
     EXPECT_EQ(ann->getBalance(), 1700);
 }
 
-TEST_F(TurnCycle, DoublesLetTheSamePlayerGoAgain) {
-    nextThrow(3, 3);
-    board->playTurn();
+TEST_F(TurnCycle, DoublesLetTheSamePlayerGoAgainUntilAThrowWithout) {
+    throwAndLand(5, 5);  // to the jail cell, only visiting
     EXPECT_TRUE(rec.has("showInfo: Ann, you have rolled doubles, go again!"));
-    EXPECT_EQ(ann->getPosition(), 6);
-    onCard("forget");
+    EXPECT_EQ(ann->getPosition(), 10);
     board->endTurn();
     EXPECT_EQ(&board->getCurrPlayer(), ann);
+    EXPECT_EQ(rec.log.back(), "showInJail");
+    EXPECT_EQ(rec.log[rec.log.size() - 2], "UpdateTurnPlaying(0)");
+    throwAndLand(1, 2);  // to Saint-Sulpice, for sale
+    EXPECT_EQ(ann->getDoubleCount(), 0);
+    onCard("forget");
+    board->endTurn();
+    EXPECT_EQ(&board->getCurrPlayer(), bob);
     EXPECT_EQ(rec.log.back(), "showInJail");
     EXPECT_EQ(rec.log[rec.log.size() - 2], "UpdateTurnPlaying(0)");
 }
@@ -172,19 +177,6 @@ TEST_F(TurnOrder, ShuffleOfOnePlayerKeepsSlotZero) {
     board->shufflePlayers();
     EXPECT_EQ(board->getPlayer(0)->getName(), "Solo");
     EXPECT_EQ(board->getPlayer(0)->getId(), 0);
-}
-
-TEST_F(TurnCycle, AThrowWithoutDoublesEndsTheChainAndTheTurnPassesOn) {
-    throwAndLand(5, 5);  // to the jail cell, only visiting
-    board->endTurn();
-    ASSERT_EQ(&board->getCurrPlayer(), ann);
-    throwAndLand(1, 2);  // to Saint-Sulpice, for sale
-    EXPECT_EQ(ann->getDoubleCount(), 0);
-    onCard("forget");
-    board->endTurn();
-    EXPECT_EQ(&board->getCurrPlayer(), bob);
-    EXPECT_EQ(rec.log.back(), "showInJail");
-    EXPECT_EQ(rec.log[rec.log.size() - 2], "UpdateTurnPlaying(0)");
 }
 
 TEST_F(TurnCycle, DoublesAroundAThrowWithoutAreNotThreeInARow) {
