@@ -228,33 +228,42 @@ TEST(ClosingDuringAWait, EndsTheRunCleanly) {
     EXPECT_EQ(gui.run.board().countSolvent(), 2);  // the game stopped, it did not play on
 }
 
-TEST(StoryViewTest, ShowsWithGameOverAndDrawsEveryPlayersWorth) {
-    GuiRun gui(std::make_unique<SeededRandom>(5));
-    gui.delay.pacing().setPace(Pace::Instant);
+// Three computers have played a seeded game to its end at once.
+class StoryView : public ::testing::Test {
+protected:
+    StoryView() {
+        EXPECT_FALSE(gui.program->storyView().isVisible());
+        gui.delay.pacing().setPace(Pace::Instant);
+        app::seatComputers(gui.program->dispatch(), gui.run, 3);
+        gui.settle();
+        EXPECT_TRUE(gui.run.gameEnd().isVisible());
+        end = sim::stateHash(gui.run.board());
+    }
+    GuiRun gui{std::make_unique<SeededRandom>(9), 4};
+    std::uint64_t end = 0;
+};
+
+TEST_F(StoryView, ShowsWithGameOverAndDrawsEveryPlayersWorth) {
     view::StoryView& view = gui.program->storyView();
-    EXPECT_FALSE(view.isVisible());
-    app::seatComputers(gui.program->dispatch(), gui.run, 4);
-    gui.settle();
-    ASSERT_TRUE(gui.run.gameEnd().isVisible());
     EXPECT_TRUE(view.isVisible());
 
     const GameStory& story = gui.run.story();
     const std::vector<art::ChartLine> lines = view.chartLines();
-    ASSERT_EQ(lines.size(), 4U);
+    ASSERT_EQ(lines.size(), 3U);
     int crosses = 0;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         EXPECT_EQ(lines[i].worth.size(), story.players()[i].worth.size());
         EXPECT_EQ(lines[i].token, story.players()[i].token);
         if (lines[i].bankruptAt > 0) ++crosses;
     }
-    EXPECT_EQ(crosses, 3);
+    EXPECT_EQ(crosses, 2);
 
     // The winner's line ends at his worth on the scale; the bankrupt end on the floor.
     QImage image(640, 360, QImage::Format_ARGB32);
     QPainter painter(&image);
     const art::ChartPlaces places = art::paintStoryChart(painter, QRectF(0, 0, 640, 360), lines);
     painter.end();
-    ASSERT_EQ(places.lineEnds.size(), 4U);
+    ASSERT_EQ(places.lineEnds.size(), 3U);
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const double worth = lines[i].bankruptAt > 0
                                  ? lines[i].worth[static_cast<std::size_t>(lines[i].bankruptAt)]
@@ -272,23 +281,9 @@ TEST(StoryViewTest, ShowsWithGameOverAndDrawsEveryPlayersWorth) {
     savePictures(view, "story");
 }
 
-// Three computers have played a seeded game to its end at once.
-class WatchAgain : public ::testing::Test {
-protected:
-    WatchAgain() {
-        gui.delay.pacing().setPace(Pace::Instant);
-        app::seatComputers(gui.program->dispatch(), gui.run, 3);
-        gui.settle();
-        EXPECT_TRUE(gui.run.gameEnd().isVisible());
-        end = sim::stateHash(gui.run.board());
-    }
-    GuiRun gui{std::make_unique<SeededRandom>(9), 4};
-    std::uint64_t end = 0;
-};
-
 // "Watch the game again" replays on the main window at Fast, with a Stop over the board;
 // Stop plays the rest at once and Game Over comes back on the same end.
-TEST_F(WatchAgain, ThenStop) {
+TEST_F(StoryView, WatchTheGameAgainThenStop) {
     view::StoryView& story = gui.program->storyView();
     ASSERT_TRUE(story.watchAgain().isEnabled());
 
@@ -318,7 +313,7 @@ TEST_F(WatchAgain, ThenStop) {
 
 // The close box during a game watched again ends the program, as it always does, once the
 // rest of the game has been played at once.
-TEST_F(WatchAgain, TheCloseBoxDuringTheReplayEndsTheProgram) {
+TEST_F(StoryView, TheCloseBoxDuringAReplayEndsTheProgram) {
     QTimer::singleShot(150, [&] { gui.program->mainView().close(); });
     clickOn(gui.program->storyView().watchAgain());
     EXPECT_TRUE(gui.exited);
