@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A person's way through the program with the mouse and keyboard: seating players past
-// both refusals, a roll and a purchase on the property card, a computer's turn with its
-// card up, the About box, the end window, a new game, and closing in the middle of a wait.
+// A person's way through the program with the mouse and keyboard: seating players past a
+// refusal, a roll and a purchase on the property card, a computer's turn with its card up,
+// the About box and Exit, the end window, a new game, and closing in the middle of a wait.
 // The story window at the end of a whole game of computers: it shows with Game Over, its
 // chart has a line per player as the story tells it, each line's end sits at its worth, the
 // game can be watched again and stopped, and the close box during a replay ends the program.
