@@ -232,6 +232,39 @@ TEST(CrowdedBoard, MarksAndTokensLeaveEveryNameClearAtEveryCell) {
     }
 }
 
+// What the board shows over a cell's name.
+QImage nameOnBoard(view::MainWindowView& main, int c) {
+    const QRectF name = nameArea(c);
+    const qreal scale = main.scale();
+    return main.board()
+        .grab(QRectF(name.topLeft() * scale, name.size() * scale).toAlignedRect())
+        .toImage();
+}
+
+// A player stands on the board once: its small square is not painted over a cell's name
+// while its large token is out, and is painted once the large token has gone.
+TEST(CrowdedBoard, ASmallSquareShowsOnlyAPlayerWhoseLargeTokenIsGone) {
+    GuiRun gui(std::make_unique<SeededRandom>(6));
+    gui.seatAnnAndAComputer();
+    MainWindow& model = gui.run.mainWindow();
+    view::MainWindowView& main = gui.program->mainView();
+    const int annId = gui.run.board().getCurrPlayer().getId();
+    constexpr int kStreet = 39;
+    const QImage bare = nameOnBoard(main, kStreet);
+    OnCell ann{};
+    ann[static_cast<std::size_t>(annId)] = true;
+
+    gui.run.click([&] { model.showCell(ann, kStreet); });
+    gui.settle();
+    ASSERT_NE(model.square(kStreet, 0), kNoPicture);
+    EXPECT_EQ(nameOnBoard(main, kStreet), bare);
+
+    gui.run.click([&] { model.showBankRupt(); });
+    gui.settle();
+    ASSERT_FALSE(model.bigToken(annId).visible);
+    EXPECT_NE(nameOnBoard(main, kStreet), bare);
+}
+
 // The scenario of the worst-case sheet is as crowded as it says, and is written.
 TEST(CrowdedBoard, TheWorstCaseHasEveryMarkAndSixTokensOnACell) {
     worst::WorstCase crowded;
