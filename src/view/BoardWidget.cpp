@@ -121,23 +121,10 @@ void BoardWidget::paintEvent(QPaintEvent*) {
     }
     if (model_.dieFace1() > 0) drawSprite(p, dieSquare(1), Sprite::Die, model_.dieFace1());
     if (model_.dieFace2() > 0) drawSprite(p, dieSquare(2), Sprite::Die, model_.dieFace2());
-    // A small square stands for a player only when its large token is not on the board: one
-    // picture of a token at a time, and the squares' places lie over the cells' names.
-    const auto tokenOnBoard = [&](int picture) {
-        for (int id = 0; id < kMaxPlayers; ++id) {
-            if (model_.panel(id).token == picture &&
-                !tokenRects[static_cast<std::size_t>(id)].isNull()) {
-                return true;
-            }
-        }
-        return false;
-    };
     for (int c = 0; c < kCells; ++c) {
         for (int s = 0; s < kMaxPlayers; ++s) {
-            const int picture = model_.square(c, s);
-            if (picture >= 0 && !tokenOnBoard(picture)) {
-                drawSprite(p, squareRect(c, s), Sprite::Token, picture);
-            }
+            const int picture = model_.squareShown(c, s);
+            if (picture >= 0) drawSprite(p, squareRect(c, s), Sprite::Token, picture);
         }
     }
     for (int c = 0; c < kCells; ++c) {

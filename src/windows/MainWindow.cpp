@@ -154,6 +154,14 @@ void MainWindow::showCell(const OnCell& onCell, Integer cellId) {
     changed();
 }
 
+int MainWindow::squareShown(int cellId, int s) const {
+    const int picture = square(cellId, s);
+    for (std::size_t id = 0; id < bigTokens_.size(); ++id) {
+        if (bigTokens_[id].visible && panel_[id].token == picture) return kNoPicture;
+    }
+    return picture;
+}
+
 void MainWindow::showOwner(Integer cellId) {
     const PropertyCell* prop = board_->propertyAt(cellId);
     if (prop == nullptr) return;

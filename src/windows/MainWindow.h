@@ -142,6 +142,9 @@ public:
     int square(int cellId, int s) const {
         return squares_[static_cast<std::size_t>(cellId)][static_cast<std::size_t>(s)];
     }
+    // The token picture that square s of a cell shows on the board, or kNoPicture: a player
+    // stands on the board once, so its square stays empty while its large token is out.
+    int squareShown(int cellId, int s) const;
     int hotelsShown(int cellId) const { return hotels_[static_cast<std::size_t>(cellId)]; }
     bool mortgageShown(int cellId) const { return mortgaged_[static_cast<std::size_t>(cellId)]; }
     int ownerMark(int cellId) const { return ownedBy_[static_cast<std::size_t>(cellId)]; }
