@@ -83,7 +83,9 @@ TextBoxes paintStartBackground(QPainter& p, const QRectF& rect) {
     paintGoldRule(p, QPointF(170, 78), QPointF(430, 78));
     drawText(out, p, QRectF(150, 84, 300, 20), QStringLiteral("A CITY GAME OF KESTROVIA"),
              TextStyle{Face::Caption, 13, colour::goldDeep, Qt::AlignCenter, 1, 9, 2});
-    drawText(out, p, QRectF(40, 126, 360, 20), QStringLiteral("Add two to six players"),
+    // One line of help at the top: the foot of the window is where Add Player comes up.
+    drawText(out, p, QRectF(40, 126, 364, 20),
+             QStringLiteral("Add two to six players, each with a token"),
              TextStyle{Face::Caption, 13, colour::inkSoft, Qt::AlignLeft | Qt::AlignVCenter, 1, 9});
     // Name entry, with its label.
     drawText(out, p, QRectF(40, 158, 98, 25), QStringLiteral("Name"),
@@ -103,8 +105,6 @@ TextBoxes paintStartBackground(QPainter& p, const QRectF& rect) {
             p.drawEllipse(QPointF(8 + 56 * i + 28, 253 + 56 * row + 28), 25, 25);
         }
     }
-    drawText(out, p, QRectF(10, 372, 380, 18), QStringLiteral("Pick a token for each player"),
-             TextStyle{Face::Caption, 11, colour::inkSoft, Qt::AlignLeft | Qt::AlignVCenter, 1, 8});
     // The list of players.
     p.setPen(pen(colour::teal, 2));
     p.setBrush(colour::paper);
@@ -115,7 +115,9 @@ TextBoxes paintStartBackground(QPainter& p, const QRectF& rect) {
     p.drawRect(QRectF(410, 166, 156, 12));
     drawText(out, p, QRectF(416, 154, 144, 22), QStringLiteral("PLAYERS"),
              TextStyle{Face::Caption, 12, colour::goldLight, Qt::AlignCenter, 1, 9, 2});
-    paintEmblem(p, QRectF(464, 348, 46, 46), Emblem::CompassRose);
+    // In the free corner at the foot: Add Player and Let's Start come up in the middle and
+    // on the right of it.
+    paintEmblem(p, QRectF(16, 369, 26, 26), Emblem::CompassRose);
     p.setPen(pen(colour::creamShade, 1));
     for (int i = 1; i < 6; ++i)
         p.drawLine(QPointF(418, 184 + 25.3 * i), QPointF(558, 184 + 25.3 * i));
